@@ -1,0 +1,58 @@
+// The command-line tool: picks the command.
+#include <cstdio>
+#include <exception>
+#include <span>
+#include <string>
+
+#include "cli/arguments.hpp"
+#include "cli/interrupt_watcher.hpp"
+#include "cli/outcome.hpp"
+#include "cli/solve_command.hpp"
+
+#include <vorq>
+
+namespace {
+
+constexpr char kUsage[] =
+    "usage: vorq COMMAND [ARGUMENT]...\n"
+    "\n"
+    "  vorq solve FILE     read a model, solve it and print the result\n"
+    "  vorq --version      print the version\n"
+    "  vorq --help         print this text; vorq COMMAND --help tells of a command\n";
+
+cli::Outcome RunCommand(std::span<char const* const> arguments) {
+  if (arguments.empty()) throw cli::UsageError("no command is given");
+  std::string const command = arguments[0];
+  if (command == "--help" || command == "-h") {
+    std::fputs(kUsage, stdout);
+    return cli::Outcome::kOptimal;
+  }
+  if (command == "--version") {
+    std::printf("vorq %d.%d.%d\n", GetVorqVersion(0), GetVorqVersion(1), GetVorqVersion(2));
+    return cli::Outcome::kOptimal;
+  }
+  if (command == "solve") {
+    cli::SolveArguments const solve = cli::ParseSolveArguments(arguments.subspan(1));
+    if (solve.help) {
+      std::fputs(cli::kSolveUsage, stdout);
+      return cli::Outcome::kOptimal;
+    }
+    return cli::RunSolve(solve);
+  }
+  throw cli::UsageError("unknown command '" + command + "'");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  cli::BlockInterrupts();
+  try {
+    return ExitCode(RunCommand({argv + 1, static_cast<std::size_t>(argc > 0 ? argc - 1 : 0)}));
+  } catch (cli::UsageError const& error) {
+    std::fprintf(stderr, "vorq: %s\n%s", error.what(), kUsage);
+    return ExitCode(cli::Outcome::kUsageError);
+  } catch (std::exception const& error) {
+    std::fprintf(stderr, "vorq: %s\n", error.what());
+    return ExitCode(cli::Outcome::kFailed);
+  }
+}

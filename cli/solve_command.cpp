@@ -1,0 +1,150 @@
+// The steps of `vorq solve`, each of which ends the command when it fails.
+#include "cli/solve_command.hpp"
+
+#include <cmath>
+#include <cstdio>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include <vorq>
+
+#include "cli/interrupt_watcher.hpp"
+#include "cli/json.hpp"
+#include "cli/log_listener.hpp"
+#include "cli/numbers.hpp"
+
+namespace cli {
+namespace {
+
+// Ends the command with the outcome kFailed.
+class CommandFailure : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// One environment and one model, whose log goes to a listener.
+class Session {
+ public:
+  explicit Session(bool printLog) : listener_(printLog), envr_(CreateEnvr(&listener_)) {
+    Check(*envr_, "");
+    model_.reset(::CreateModel(envr_.get(), "vorq"));
+    Check(*model_, "");
+    model_->SetIntParam("LogToConsole", 0);
+    model_->SetLogCallback(&listener_);
+  }
+
+  Vorq::IModel& Model() { return *model_; }
+  LogListener const& Listener() const { return listener_; }
+
+  // Fails with what the log tells of the cause, which says more than the text of a return code.
+  template <class Object>
+  void Check(Object& object, std::string const& culprit) const {
+    if (object.GetLastError() == 0) return;
+    std::string const cause = listener_.Error().empty() ? object.GetErrorMessage() : listener_.Error();
+    throw CommandFailure(culprit.empty() ? cause : culprit + ": " + cause);
+  }
+
+ private:
+  LogListener listener_;
+  std::unique_ptr<Vorq::IEnvr> envr_;
+  std::unique_ptr<Vorq::IModel> model_;
+};
+
+void ApplySetting(Session& session, std::string const& name, std::string const& value) {
+  constexpr int kDoubleParameter = 0;
+  constexpr int kIntParameter = 1;
+  Vorq::IModel& model = session.Model();
+  std::string const culprit = "--set " + name + "=" + value;
+  switch (model.SearchParamAttr(name.c_str())) {
+    case kDoubleParameter: {
+      auto const number = ParseDouble(value);
+      if (!number) throw CommandFailure(culprit + ": the value is not a number");
+      model.SetDblParam(name.c_str(), *number);
+      break;
+    }
+    case kIntParameter: {
+      auto const number = ParseInt(value);
+      if (!number) throw CommandFailure(culprit + ": the value is not a whole number");
+      model.SetIntParam(name.c_str(), *number);
+      break;
+    }
+    default: throw CommandFailure(culprit + ": there is no such parameter");
+  }
+  session.Check(model, culprit);
+}
+
+void ReadReport(Session& session, SolveReport& report) {
+  Vorq::IModel& model = session.Model();
+  bool const isMip = model.GetIntAttr("IsMIP") != 0;
+  report.outcome = OutcomeOfStatus(model.GetIntAttr(isMip ? "MipStatus" : "LpStatus"));
+  if (model.GetIntAttr(isMip ? "HasMipSol" : "HasLpSol") != 0) {
+    report.objective = model.GetDblAttr(isMip ? "BestObj" : "LpObjval");
+  }
+  if (isMip) {
+    double const bound = model.GetDblAttr("BestBnd");
+    if (std::abs(bound) < 1e30) report.bound = bound;
+  } else if (report.outcome == Outcome::kOptimal) {
+    report.bound = report.objective;
+  }
+  report.seconds = model.GetDblAttr("SolvingTime");
+}
+
+SolveReport Solve(SolveArguments const& arguments) {
+  SolveReport report;
+  Session session(!arguments.json);
+  Vorq::IModel& model = session.Model();
+  try {
+    model.Read(arguments.file.c_str());
+    session.Check(model, arguments.file);
+    for (auto const& [name, value] : arguments.settings) ApplySetting(session, name, value);
+    if (arguments.timeLimit) {
+      model.SetDblParam("TimeLimit", *arguments.timeLimit);
+      session.Check(model, "--time-limit");
+    }
+    {
+      InterruptWatcher const watcher(model);
+      model.Solve();
+    }
+    session.Check(model, arguments.file);
+    ReadReport(session, report);
+    if (!arguments.solutionFile.empty()) {
+      if (std::isnan(report.objective)) throw CommandFailure("there is no solution to write");
+      model.WriteSol(arguments.solutionFile.c_str());
+      session.Check(model, arguments.solutionFile);
+    }
+  } catch (std::exception const& failure) {
+    report.outcome = Outcome::kFailed;
+    report.message = failure.what();
+  }
+  report.engine = session.Listener().Engine();
+  return report;
+}
+
+void PrintJson(SolveReport const& report) {
+  JsonObject object;
+  object.Add("status", OutcomeText(report.outcome));
+  object.Add("objective", report.objective);
+  object.Add("bound", report.bound);
+  object.Add("time", report.seconds);
+  object.Add("engine", report.engine);
+  object.Add("message", report.message);
+  std::puts(object.Text().c_str());
+}
+
+}  // namespace
+
+Outcome RunSolve(SolveArguments const& arguments) {
+  SolveReport const report = Solve(arguments);
+  if (arguments.json) {
+    PrintJson(report);
+  } else if (report.message.empty()) {
+    std::printf("status: %s\n", OutcomeText(report.outcome));
+    if (!std::isnan(report.objective)) std::printf("objective: %.10g\n", report.objective);
+    if (!std::isnan(report.bound)) std::printf("bound: %.10g\n", report.bound);
+  }
+  if (!report.message.empty()) std::fprintf(stderr, "vorq: %s\n", report.message.c_str());
+  return report.outcome;
+}
+
+}  // namespace cli

@@ -1,0 +1,55 @@
+// VorqModel: the handle on a model. Its operations stand in a chain of data-less bases, one a topic; removal,
+// resetting, callbacks and the status are here.
+#pragma once
+
+#include "handles/model_solving.hpp"
+
+class VorqModel final : public VorqModelSolving {
+ public:
+  using VorqModelSolving::VorqModelSolving;
+
+  // Removal: lazy, carried out by the next operation that needs the solver library's numbering.
+  void Remove(Vorq::IMVar<0>*) override { NotImplemented("Remove"); }
+  void Remove(Vorq::IMVar<1>*) override { NotImplemented("Remove"); }
+  void Remove(Vorq::IMVar<2>*) override { NotImplemented("Remove"); }
+  void Remove(Vorq::IMVar<3>*) override { NotImplemented("Remove"); }
+  void Remove(Vorq::IMConstr<0>*) override { NotImplemented("Remove"); }
+  void Remove(Vorq::IMConstr<1>*) override { NotImplemented("Remove"); }
+  void Remove(Vorq::IMConstr<2>*) override { NotImplemented("Remove"); }
+  void Remove(Vorq::IMConstr<3>*) override { NotImplemented("Remove"); }
+  void Remove(Vorq::IMQConstr<0>*) override { NotImplemented("Remove"); }
+  void Remove(Vorq::IMQConstr<1>*) override { NotImplemented("Remove"); }
+  void Remove(Vorq::IMQConstr<2>*) override { NotImplemented("Remove"); }
+  void Remove(Vorq::IMQConstr<3>*) override { NotImplemented("Remove"); }
+  void Remove(Vorq::IMPsdConstr<0>*) override { NotImplemented("Remove"); }
+  void Remove(Vorq::IMPsdConstr<1>*) override { NotImplemented("Remove"); }
+  void Remove(Vorq::IMPsdConstr<2>*) override { NotImplemented("Remove"); }
+  void Remove(Vorq::IMPsdConstr<3>*) override { NotImplemented("Remove"); }
+  void Remove(Vorq::IVarArray* vars) override { Impl().Remove(Vorq::Unwrap(vars)); }
+  void Remove(Vorq::IConstrArray* constrs) override { Impl().Remove(Vorq::Unwrap(constrs)); }
+  void Remove(Vorq::ISosArray* soss) override { Impl().Remove(Vorq::Unwrap(soss)); }
+  void Remove(Vorq::IConeArray* cones) override { Impl().Remove(Vorq::Unwrap(cones)); }
+  void Remove(Vorq::IExpConeArray* cones) override { Impl().Remove(Vorq::Unwrap(cones)); }
+  void Remove(Vorq::IAffineConeArray* cones) override { Impl().Remove(Vorq::Unwrap(cones)); }
+  void Remove(Vorq::IGenConstrArray* constrs) override { Impl().Remove(Vorq::Unwrap(constrs)); }
+  void Remove(Vorq::IQConstrArray* constrs) override { Impl().Remove(Vorq::Unwrap(constrs)); }
+  void Remove(Vorq::IPsdVarArray* vars) override { Impl().Remove(Vorq::Unwrap(vars)); }
+  void Remove(Vorq::IPsdConstrArray* constrs) override { Impl().Remove(Vorq::Unwrap(constrs)); }
+  void Remove(Vorq::ILmiConstrArray* constrs) override { Impl().Remove(Vorq::Unwrap(constrs)); }
+
+  // Reset, clear, copy.
+  void ResetParam() override { Impl().ResetParam(); }
+  void ResetAll() override { Impl().ResetAll(); }
+  void Reset() override { Impl().Reset(); }
+  void Clear() override { Impl().Clear(); }
+  Vorq::IModel* Clone() override { return Vorq::Wrap<Vorq::IModel>(Impl().Clone()); }
+
+  // Callbacks and logging.
+  void SetCallback(Vorq::ICallback*, int) override { NotImplemented("SetCallback"); }
+  int SetLogFile(char const* path) override { return Impl().SetLogFile(path); }
+  int SetLogCallback(Vorq::ILogSink* logger) override { return Impl().SetLogCallback(logger); }
+
+  // The last failure; the text is valid until the next one.
+  int GetLastError() override { return Impl().status.Code(); }
+  char const* GetErrorMessage() override { return Impl().status.Text(); }
+};

@@ -1,0 +1,32 @@
+// ItemRec: the identity of one model item, shared by all objects that stand for it.
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "frame/shared_ptr.hpp"
+#include "items/prob_handle.hpp"
+
+namespace Vorq {
+
+// The index of an item that a failed operation returned: it stands for nothing.
+inline constexpr int kInvalidIndex = -2;
+
+// The index of a removed item that stood at `position`, and back: the two are one mapping.
+constexpr int RemovedIndex(int position) {
+  return -3 - position;
+}
+
+struct ItemRec {
+  ItemRec(SharedPtr<ProbHandle> problem, std::string itemName, int index)
+      : idx(index), prob(std::move(problem)), name(std::move(itemName)) {}
+
+  // 0 or above: the position in the solver's list. -2: invalid. -3 or below: removed. It stands first, behind the
+  // control block, so that the counter and the index that every term reads share a cache line.
+  int idx;
+  SharedPtr<ProbHandle> prob;
+  // The cached name; empty if it was not fetched or there is none.
+  std::string name;
+};
+
+}  // namespace Vorq

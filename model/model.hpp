@@ -1,0 +1,353 @@
+// Model: one problem of the solver library, with tables of items that follow its numbering.
+//
+//     Vorq::Model model(envr, "diet");
+//     Vorq::Var x = model.AddVar(0.0, 10.0, 1.5, 'C', "bread");
+//     Vorq::Expr expr(x, 2.0);
+//     model.AddConstr(expr, 'G', 4.0, "energy");
+//     model.Solve();
+//     if (model.status.Failed()) { ... model.status.Text() ... }
+//
+// Every operation records its outcome in `status`. Operations that make items call the solver library first, and take
+// an index only when it has accepted. Removal is lazy: Remove marks, ApplyRemovals carries out. The operations stand in
+// one source file a topic.
+#pragma once
+
+#include <algorithm>
+#include <atomic>
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "frame/status.hpp"
+#include "items/item_arrays.hpp"
+#include "model/cut_kinds.hpp"
+#include "model/envr.hpp"
+#include "model/file_formats.hpp"
+#include "model/model_core.hpp"
+#include "model/prob_buffer.hpp"
+
+namespace Vorq {
+
+inline constexpr double kInfinity = VORQ_INFINITY;
+
+// Rows or columns as the solver library hands them out: line i has count[i] elements from position begin[i].
+struct SparseLines {
+  std::vector<int> begin;
+  std::vector<int> count;
+  std::vector<int> index;
+  std::vector<double> value;
+};
+
+// A read of a number by name, and where it goes.
+template <class T>
+struct NamedRead {
+  int (*read)(VORQ_Prob* prob, char const* name, T* value);
+  T* out;
+};
+
+struct NameRule;
+
+class Model {
+ public:
+  // `name` must not be null.
+  Model(Envr const& envr, char const* name);
+  // A model on a core that is complete: the result of Clone.
+  explicit Model(SharedPtr<ModelCore> core) : core_(std::move(core)) {}
+
+  Status status;
+
+  ModelCore& Core() const { return *core_; }
+  template <class Item>
+  int Count() const {
+    return core_->Table<Item>().count;
+  }
+
+  // ---- The frame of all operations (model.cpp, model_removal.cpp, model_tables.cpp)
+
+  // Deletes marked items in the solver library and renumbers the others. False after a failure, with items of the
+  // failed kind and those behind it still marked.
+  bool ApplyRemovals();
+  // Rebuilds all tables from the solver library.
+  void ReloadItems();
+  // Makes the scratch arrays hold at least `size` entries.
+  void EnsureDense(int size);
+  // Told the number of columns whenever it shrinks or is read anew; Clear forgets it.
+  void SetColumnCountListener(std::function<void(int)> listener) { columnCountListener_ = std::move(listener); }
+
+  SharedPtr<ModelCore> Clone();
+  void Clear();
+  void Reset();
+  void ResetAll();
+  void ResetParam();
+
+  // ---- Items of any kind (model_items.cpp)
+
+  template <class Item>
+  Item Get(int index);
+  template <class Item>
+  Item GetByName(char const* name);
+  // All live items. An earlier failure that is still in the status stops the walk before it begins.
+  template <class Item>
+  std::vector<Item> Collect();
+  template <class Item>
+  void SetNames(std::vector<Item> const& items, char const* names, std::size_t length);
+  template <class Item>
+  void Remove(std::vector<Item>& items) {
+    for (Item& item : items) item.MarkRemoved();
+  }
+
+  // ---- Variables (model_variables.cpp)
+
+  Var AddVar(double lb, double ub, double obj, char type, char const* name);
+  Var AddVar(double lb, double ub, double obj, char type, Column& column, char const* name);
+  VarArray AddVars(int count, char type, char const* prefix);
+  VarArray AddVars(int count, char type, char const* names, std::size_t length);
+  VarArray AddVars(int count, double lb, double ub, double obj, char type, char const* prefix);
+  VarArray AddVars(int count, double lb, double ub, double obj, char type, char const* names, std::size_t length);
+  // Null arrays leave the attribute to the solver library.
+  VarArray AddVars(int count, double const* lbs, double const* ubs, double const* objs, char const* types,
+                   char const* prefix);
+  VarArray AddVars(int count, double const* lbs, double const* ubs, double const* objs, char const* types,
+                   char const* names, std::size_t length);
+  VarArray AddVars(int count, double const* lbs, double const* ubs, double const* objs, char const* types,
+                   ColumnArray& columns, char const* prefix);
+  Column GetCol(Var const& var);
+
+  // ---- Linear constraints (model_constraints.cpp), cuts and lazy constraints (model_cuts.cpp)
+
+  Constraint AddConstr(Expr& expr, char sense, double rhs, char const* name);
+  Constraint AddConstr(Expr const& lhs, char sense, Expr const& rhs, char const* name);
+  Constraint AddConstr(Expr& expr, double lower, double upper, char const* name);
+  Constraint AddConstr(ConstrBuilder& builder, char const* name);
+  ConstrArray AddConstrs(int count, char const* senses, double const* rhss, char const* prefix);
+  ConstrArray AddConstrs(int count, double const* lowers, double const* uppers, char const* prefix);
+  ConstrArray AddConstrs(int count, double const* lowers, double const* uppers, char const* names, std::size_t length);
+  ConstrArray AddConstrs(ConstrBuilderArray& builders, char const* prefix);
+  ConstrArray AddConstrs(ConstrBuilderArray& builders, char const* names, std::size_t length);
+  Expr GetRow(Constraint const& constr);
+  ConstrBuilder GetConstrBuilder(Constraint& constr);
+  ConstrBuilderArray GetConstrBuilders();
+
+  void AddCut(CutKind const& kind, Expr& expr, char sense, double rhs, char const* name);
+  void AddCut(CutKind const& kind, Expr const& lhs, char sense, Expr const& rhs, char const* name);
+  void AddCut(CutKind const& kind, ConstrBuilder& builder, char const* name);
+  void AddCuts(CutKind const& kind, ConstrBuilderArray& builders, char const* prefix);
+  void AddCuts(CutKind const& kind, ConstrBuilderArray& builders, char const* names, std::size_t length);
+
+  // ---- Coefficients and bulk loads (model_coefficients.cpp)
+
+  double GetCoeff(Constraint const& constr, Var const& var);
+  void SetCoeff(Constraint const& constr, Var const& var, double value);
+  void SetCoeffs(ConstrArray const& constrs, VarArray const& vars, double const* values, int len);
+  void GetCols(int* begin, int* count, int* index, double* value);
+  void LoadMatrix(int nCols, int nRows, double const* objs, int const* colBeg, int const* colCnt, int const* rows,
+                  double const* coefs, double const* lowers, double const* uppers, double const* lbs, double const* ubs,
+                  char const* types);
+
+  // ---- Objective (model_objective.cpp)
+
+  void SetObjSense(int sense);
+  void SetObjConst(double constant);
+  // A sense of 0 leaves the sense as it is.
+  void SetObjective(Expr& expr, int sense);
+  void SetObjective(Var const& var, int sense);
+  Expr GetObjective();
+
+  // ---- Solving (model_solving.cpp), solutions (model_solutions.cpp), relaxation and MIP starts (files of that name)
+
+  void Solve();
+  void SolveLp();
+  void ComputeIIS();
+  void Tune();
+  void LoadTuneParam(int index);
+  // May be called by another thread while one of the operations above runs.
+  void Interrupt();
+  int SetLogFile(char const* path);
+  int SetLogCallback(ILogSink* logger);
+
+  void GetSolution(double* values);
+  void GetLpSolution(double* value, double* slack, double* dual, double* redcost);
+  void SetLpSolution(double const* value, double const* slack, double const* dual, double const* redcost);
+  void GetPsdSolution(double* values, double* slacks, double* duals, double* redcosts);
+  void GetLmiSolution(double* slacks, double* duals);
+  int GetColBasis(int* basis);
+  int GetRowBasis(int* basis);
+  void SetBasis(int const* colBasis, int const* rowBasis);
+  void SetSlackBasis();
+  double GetPoolObjVal(int index);
+  int GetPoolSolution(int index, VarArray const& vars, double* out);
+  int GetColLowerIIS(VarArray const& vars, int* out);
+  int GetColUpperIIS(VarArray const& vars, int* out);
+  int GetRowLowerIIS(ConstrArray const& constrs, int* out);
+  int GetRowUpperIIS(ConstrArray const& constrs, int* out);
+  int GetSOSIIS(SosArray const& soss, int* out);
+  int GetIndicatorIIS(GenConstrArray const& constrs, int* out);
+
+  void FeasRelax(VarArray const& vars, double const* colLowPen, double const* colUppPen, ConstrArray const& cons,
+                 double const* rowBndPen, double const* rowUppPen);
+  void FeasRelax(bool relaxVars, bool relaxCons);
+
+  void SetMipStart(int count, double const* values);
+  void SetMipStart(Var const& var, double value);
+  void SetMipStart(VarArray const& vars, double const* values);
+  void LoadMipStart();
+
+  // ---- Files (model_files.cpp)
+
+  // By the ending of the path. Write passes over an unknown ending in silence, which is meant.
+  void Read(char const* path);
+  void Write(char const* path);
+  // In the given format, whatever the ending.
+  void Transfer(FileFormat const& format, char const* path);
+  // Throws std::logic_error for a null path.
+  void Transfer(IndexedFileFormat const& format, int index, char const* path);
+  ProbBuffer WriteMpsStr();
+
+  // ---- Parameters and attributes (model_parameters.cpp), information of items (model_information.cpp)
+
+  void GetParamInfo(char const* name, int* current, int* def, int* min, int* max);
+  void GetParamInfo(char const* name, double* current, double* def, double* min, double* max);
+  int GetIntParam(char const* name);
+  double GetDblParam(char const* name);
+  void SetIntParam(char const* name, int value);
+  void SetDblParam(char const* name, double value);
+  int GetIntAttr(char const* name);
+  double GetDblAttr(char const* name);
+  // The kind of a name, -1 for an unknown one.
+  int SearchParamAttr(char const* name);
+
+  // Of variables, constraints, quadratic and PSD constraints. `out` takes the live items' values without gaps; the
+  // result is their number, -1 on failure.
+  template <class Item>
+  int GetInfo(char const* name, std::vector<Item> const& items, double* out);
+  // Of variables, constraints and PSD constraints.
+  template <class Item>
+  void SetInfo(char const* name, std::vector<Item> const& items, double const* values, int len);
+
+ private:
+  using SparseGetter = int (*)(VORQ_Prob* prob, int count, int const* indices, int* begin, int* counts, int* index,
+                               double* value, int capacity, int* required);
+  struct RowBatch;
+  class SolveScope;
+
+  VORQ_Prob* Prob() const { return core_->prob->prob; }
+
+  // Records a solver library's code; true for success.
+  bool Record(int code, char const* text) {
+    SetStatus(status, code, "%s", text);
+    return code == kOk;
+  }
+  bool Refuse(char const* text) { return Record(kInvalid, text); }
+  // Takes over the failure of another object.
+  bool HandOn(Status const& other) { return Record(kInvalid, other.Text()); }
+
+  // ---- Adding: after the solver library's call, with its code.
+
+  template <class Item>
+  Item Invalid() const {
+    return Item(core_->prob, std::string(), kInvalidIndex);
+  }
+  // Appends the item that the solver library has just numbered.
+  template <class Item, class... Dimension>
+  Item& Append(std::string name, Dimension... dimension) {
+    ItemTable<Item>& table = core_->Table<Item>();
+    Item& item = table.items.emplace_back(core_->prob, std::move(name), table.count, dimension...);
+    ++table.count;
+    return item;
+  }
+  template <class Item, class... Dimension>
+  Item Added(int code, char const* text, std::string name, Dimension... dimension) {
+    if (!Record(code, text)) return Invalid<Item>();
+    return Append<Item>(std::move(name), dimension...);
+  }
+  template <class Item>
+  std::vector<Item> AddedAll(int code, char const* text, std::vector<char const*> const& names) {
+    std::vector<Item> added;
+    if (!Record(code, text)) return added;
+    std::vector<Item>& items = core_->Table<Item>().items;
+    std::size_t const needed = items.size() + names.size();
+    if (needed > items.capacity()) items.reserve(std::max(needed, 2 * items.capacity()));
+    added.reserve(names.size());
+    for (char const* name : names) added.push_back(Append<Item>(name));
+    return added;
+  }
+  // False, with the failure recorded, for a buffer that is too short.
+  bool TakeNames(char const* names, std::size_t length, int count, std::vector<char const*>& result);
+
+  // ---- Terms
+
+  // Merges the terms of an expression or a column in place and appends their indices. `size` bounds the indices of
+  // this model's items; those of another model's are made room for, and left to the solver library to judge.
+  template <class Terms>
+  void Compact(Terms& terms, int size, std::vector<int>& indices);
+  // The same into `indices_`, for calls with one expression; the result is the number of terms.
+  template <class Terms>
+  int Compact(Terms& terms, int size);
+
+  // ---- Reading back
+
+  // The required-size protocol: `ask(int* required)`, then `fetch(int capacity)`, each giving a code.
+  template <class Ask, class Fetch>
+  bool ReadTwice(Ask ask, char const* sizeFailed, Fetch fetch, char const* dataFailed) {
+    int required = 0;
+    return Record(ask(&required), sizeFailed) && Record(fetch(std::max(required, 0)), dataFailed);
+  }
+  // Reads `count` rows or columns; null `indices` means all in order.
+  bool ReadLines(SparseGetter get, int count, int const* indices, char const* sizeFailed, char const* dataFailed,
+                 SparseLines& lines);
+  // Adds the elements of one line to an expression or a column, up to an index that this model does not know.
+  template <class Item, class Terms>
+  void AddLine(SparseLines const& lines, std::size_t line, Terms& terms);
+
+  // ---- Calls on live items only
+
+  template <class Item>
+  static std::vector<int> LiveIndices(std::vector<Item> const& items);
+  // Reads one value an item without gaps; the result is the number of live items, whatever the outcome.
+  template <class Item, class T>
+  int ReadLive(ItemReader<T> read, std::vector<Item> const& items, T* out, char const* text);
+  // False, with the failure recorded, if an item is not live.
+  template <class Item>
+  bool CheckLive(Item const& item);
+
+  // ---- Helpers of single topics
+
+  // Carries out removals, then calls `function` with the problem and `arguments`.
+  template <class Function, class... Arguments>
+  bool FlushAndCall(char const* text, Function function, Arguments... arguments) {
+    return ApplyRemovals() && Record(function(Prob(), arguments...), text);
+  }
+  template <class Item>
+  bool RemoveMarked();
+  template <class Item>
+  bool ReloadTable(ModelCore& target, std::vector<int> const& dims);
+  template <class Item>
+  bool CloneTable(ModelCore& copy);
+  void TellColumnCount();
+  Constraint AddRow(Expr& expr, int sense, double bound, double upper, std::string name);
+  int FlattenBuilders(ConstrBuilderArray& builders, RowBatch& batch);
+  bool AddBounds(ConstrBuilder& builder, Constraint& constr);
+  bool ResolveName(char const* name, NameRule const& rule, std::string& canonical);
+  // A number by its name, `otherwise` on failure.
+  template <class T>
+  T ReadNamed(char const* name, NameRule const& rule, int (*read)(VORQ_Prob*, char const*, T*), char const* text,
+              T otherwise);
+  // Reads in order up to the first failure.
+  template <class T>
+  void ReadAllNamed(char const* name, NameRule const& rule, NamedRead<T> const (&reads)[4], char const* text);
+
+  SharedPtr<ModelCore> core_;
+  std::function<void(int)> columnCountListener_;
+  // Scratch, one entry for each column or row. Between operations the marks and positions are all zero.
+  std::vector<double> denseVal_;
+  std::vector<unsigned char> denseFlag_;
+  std::vector<int> denseIdx_;
+  std::vector<int> indices_;
+  // Set while an operation runs that another thread may interrupt.
+  std::atomic<bool> solving_{false};
+};
+
+}  // namespace Vorq

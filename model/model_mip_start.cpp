@@ -1,0 +1,38 @@
+// The store of start values: filled by SetMipStart, handed over and emptied by LoadMipStart.
+#include "model/model.hpp"
+
+namespace Vorq {
+
+void Model::SetMipStart(int count, double const* values) {
+  std::vector<Var> const& vars = core_->Table<Var>().items;
+  int taken = 0;
+  for (auto var = vars.begin(); var != vars.end() && taken < count; ++var) {
+    if (var->IsLive()) core_->mipStart.insert_or_assign(*var, values[taken++]);
+  }
+}
+
+void Model::SetMipStart(Var const& var, double value) {
+  if (var.IsLive()) core_->mipStart.insert_or_assign(var, value);
+}
+
+void Model::SetMipStart(VarArray const& vars, double const* values) {
+  // Variables that are not live are stored too: LoadMipStart passes over them.
+  for (std::size_t i = 0; i < vars.size(); ++i) core_->mipStart.insert_or_assign(vars[i], values[i]);
+}
+
+void Model::LoadMipStart() {
+  if (!ApplyRemovals()) return;
+  MipStart const start = std::exchange(core_->mipStart, MipStart());
+  std::vector<int> indices;
+  std::vector<double> values;
+  for (auto const& [var, value] : start) {
+    if (!var.IsLive()) continue;
+    indices.push_back(var.Idx());
+    values.push_back(value);
+  }
+  if (indices.empty()) return;
+  Record(VORQ_AddMipStart(Prob(), static_cast<int>(indices.size()), indices.data(), values.data()),
+         "Fail to add MIP start information");
+}
+
+}  // namespace Vorq

@@ -1,0 +1,63 @@
+// Running the solver, and its log.
+#include "model/model.hpp"
+
+namespace Vorq {
+namespace {
+
+// Called by the solver library with each line of its log.
+void PassLogLine(char const* line, void* user) {
+  if (user != nullptr) static_cast<ILogSink*>(user)->Log(line);
+}
+
+}  // namespace
+
+// While one lives, Interrupt leaves the status to the operation that it interrupts.
+class Model::SolveScope {
+ public:
+  explicit SolveScope(Model& model) : solving_(model.solving_) { solving_ = true; }
+  SolveScope(SolveScope const&) = delete;
+  SolveScope& operator=(SolveScope const&) = delete;
+  ~SolveScope() { solving_ = false; }
+
+ private:
+  std::atomic<bool>& solving_;
+};
+
+void Model::Solve() {
+  SolveScope const scope(*this);
+  FlushAndCall("Fail to solve problem", VORQ_Solve);
+}
+
+void Model::SolveLp() {
+  SolveScope const scope(*this);
+  FlushAndCall("Fail to solve problem as LP", VORQ_SolveLp);
+}
+
+void Model::ComputeIIS() {
+  SolveScope const scope(*this);
+  FlushAndCall("Fail to compute IIS", VORQ_ComputeIIS);
+}
+
+void Model::Tune() {
+  SolveScope const scope(*this);
+  FlushAndCall("Fail to tune model", VORQ_Tune);
+}
+
+void Model::LoadTuneParam(int index) {
+  FlushAndCall("Fail to load tuned parameters to model", VORQ_LoadTuneParam, index);
+}
+
+void Model::Interrupt() {
+  int const code = VORQ_Interrupt(Prob());
+  if (!solving_) Record(code, "Fail to call interrupt");
+}
+
+int Model::SetLogFile(char const* path) {
+  return VORQ_SetLogFile(Prob(), path);
+}
+
+int Model::SetLogCallback(ILogSink* logger) {
+  return VORQ_SetLogCallback(Prob(), PassLogLine, logger);
+}
+
+}  // namespace Vorq

@@ -1,0 +1,45 @@
+// Arrays seen with another rank or stretched to another shape: a new shape over the same store, no element copied.
+#pragma once
+
+#include <utility>
+
+#include "ndarray/nd_array.hpp"
+
+namespace Vorq {
+
+// `shape` over the store of `source`. A failed shape gives a failed array, which holds the source's first element.
+template <int M, class T, int N>
+NdArray<T, M> UnderShape(NdArray<T, N> const& source, NDim<M> shape) {
+  if (!shape.Failed()) return NdArray<T, M>(std::move(shape), source.Store());
+  auto result = NdArray<T, M>::OneElement(source.Get(0));
+  SetStatus(result.GetStatus(), kInvalid, "%s", shape.GetErrorMessage());
+  return result;
+}
+
+template <class T, int N>
+NdArray<T, N + 1> ExpandDims(NdArray<T, N> const& array, int axis) {
+  return UnderShape(array, array.GetShape().ExpandDims(axis));
+}
+
+template <class T, int N>
+NdArray<T, N - 1> Squeeze(NdArray<T, N> const& array, int axis) {
+  return UnderShape(array, array.GetShape().Squeeze(axis));
+}
+
+template <class T, int N>
+NdArray<T, N - 1> Diagonal(NdArray<T, N> const& array, int offset, int axis1, int axis2) {
+  return UnderShape(array, array.GetShape().Diagonal(offset, axis1, axis2));
+}
+
+// `array` stretched against `other`. Where an axis of size 0 is stretched to size 1 there is no element to read, and
+// the result reads a default element.
+template <int M, class T, int N>
+NdArray<T, M> Broadcast(NdArray<T, N> const& array, NDim<M> const& other) {
+  NDim<M> shape = array.GetShape().Broadcast(other);
+  if (shape.Failed() || array.GetSize() != 0 || shape.GetSize() == 0) return UnderShape(array, std::move(shape));
+  auto axes = shape.GetAxes();
+  for (Axis& axis : axes) axis = {axis.size, 0, 0};
+  return NdArray<T, M>(NDim<M>::FromAxes(axes), NdArray<T, M>::OneElement(T()).Store());
+}
+
+}  // namespace Vorq

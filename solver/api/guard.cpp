@@ -1,0 +1,46 @@
+// The one place where exceptions become return codes.
+#include "solver/api/guard.hpp"
+
+#include <exception>
+#include <new>
+#include <string>
+
+namespace vorqsolver {
+
+namespace {
+
+// Writing the report must not fail the call a second time.
+void Tell(Problem* problem, char const* text) noexcept {
+  if (problem == nullptr) return;
+  try {
+    problem->lastMessage = text;
+    problem->log.Line(Text("Error: ", text));
+  } catch (...) {
+    return;
+  }
+}
+
+}  // namespace
+
+int ReportFailure(Problem* problem) noexcept {
+  try {
+    throw;
+  } catch (Failure const& failure) {
+    Tell(problem, failure.what());
+    return failure.code;
+  } catch (std::bad_alloc const&) {
+    Tell(problem, "Out of memory");
+    return VORQ_MEMORY;
+  } catch (std::length_error const&) {
+    Tell(problem, "Out of memory");
+    return VORQ_MEMORY;
+  } catch (std::exception const& exception) {
+    Tell(problem, exception.what());
+    return VORQ_INTERNAL;
+  } catch (...) {
+    Tell(problem, "Unknown error");
+    return VORQ_INTERNAL;
+  }
+}
+
+}  // namespace vorqsolver

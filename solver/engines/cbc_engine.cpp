@@ -1,0 +1,506 @@
+// Branch and cut by Cbc.
+#include "solver/engines/cbc_engine.hpp"
+
+#include <CbcConfig.h>
+
+#include <CbcBranchActual.hpp>
+#include <CbcEventHandler.hpp>
+#include <CbcModel.hpp>
+#include <CbcTree.hpp>
+#include <CglPreProcess.hpp>
+#include <CglProbing.hpp>
+#include <CoinError.hpp>
+#include <OsiClpSolverInterface.hpp>
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <numeric>
+
+#include "solver/engines/cbc_setup.hpp"
+#include "solver/engines/clp_control.hpp"
+#include "solver/engines/mip_incumbents.hpp"
+#include "solver/engines/mip_model.hpp"
+#include "solver/engines/mip_progress.hpp"
+#include "solver/problem/failure.hpp"
+
+namespace vorqsolver {
+
+namespace {
+
+constexpr int kPreprocessPasses = 10;
+constexpr double kBox = 1e7;  // bounds put on a search that the relaxation alone does not bound
+
+// Cbc's own numbers.
+enum CbcOutcome { kFinished = 0, kNumericalTrouble = 2 };
+enum CbcReason { kGapReached = 2, kNodesReached = 3 };
+
+// Watches the search: progress, incumbents, stops.
+class SearchWatch : public CbcEventHandler {
+ public:
+  SearchWatch(SolveTask const& task, MipProgress& progress, std::vector<std::vector<double>>& found)
+      : task_(&task), progress_(&progress), found_(&found) {}
+
+  CbcEventHandler* clone() const override { return new SearchWatch(*this); }
+
+  CbcAction event(CbcEvent which) override {
+    bool const isMain = model_ != nullptr && model_->parentModel() == nullptr;
+    if (isMain && (which == node || which == treeStatus)) {
+      int const open = model_->tree() != nullptr ? model_->tree()->size() : 0;
+      progress_->Update(model_->getNodeCount(), open, model_->getBestPossibleObjValue());
+    }
+    if (isMain && (which == solution || which == heuristicSolution) && model_->bestSolution() != nullptr) {
+      Record(which == solution ? '*' : 'H');
+    }
+    progress_->Tick();
+    return task_->stop.Asked() ? stop : noAction;
+  }
+
+ private:
+  void Record(char mark) {
+    double const* values = model_->bestSolution();
+    found_->emplace_back(values, values + model_->getNumCols());
+    progress_->Incumbent(model_->getObjValue(), mark);
+  }
+
+  SolveTask const* task_;
+  MipProgress* progress_;
+  std::vector<std::vector<double>>* found_;
+};
+
+class CbcSolver {
+ public:
+  explicit CbcSolver(SolveTask const& task)
+      : task_(task), mip_(task.data, task.parameters), incumbents_(task), progress_(task) {
+    tick_ = [this](ClpSimplex const*) { progress_.Tick(); };
+    result_.engine = "Cbc";
+    result_.isMip = true;
+  }
+
+  SolveResult Run();
+
+ private:
+  void Control(OsiClpSolverInterface& solver);
+  void Load(OsiClpSolverInterface& solver);
+  bool SolveRoot();
+  bool FinishUnboundedRoot();
+  void TakeStarts();
+  bool TakeStart(MipStart const& start, std::string& cause);
+  bool CompletePartial(MipStart const& start);
+  std::unique_ptr<OsiClpSolverInterface> Preprocess();
+  bool MayPreprocess() const;
+  void Search(OsiClpSolverInterface& reduced);
+  void AddSets(CbcModel& model);
+  void OfferStart(CbcModel& model, OsiClpSolverInterface const& reduced);
+  void Conclude(CbcModel const& model);
+  void CarryBack(std::vector<double> const& reducedValues);
+  void KeepFinal(std::vector<double> const& reducedValues, OsiClpSolverInterface const& reduced);
+  SolveResult Finish();
+
+  double EngineValue(double objective) const { return mip_.linear.sign * (objective - task_.data.objective.constant); }
+  double ProblemValue(double engineValue) const {
+    return mip_.linear.sign * engineValue + task_.data.objective.constant + 0.0;
+  }
+
+  SolveTask const& task_;
+  MipModel mip_;
+  MipIncumbents incumbents_;
+  MipProgress progress_;
+  SilentHandler silent_;
+  IterationWatch::Report tick_;
+  OsiClpSolverInterface solver_;
+  std::unique_ptr<CglPreProcess> preprocess_;
+  std::vector<int> originalCols_;  // of the reduced model; empty where nothing was reduced
+  SolveResult result_;
+  bool isBoxed_ = false;
+};
+
+void CbcSolver::Control(OsiClpSolverInterface& solver) {
+  solver.passInMessageHandler(&silent_);
+  solver.setHintParam(OsiDoReducePrint, true, OsiHintTry);
+  auto* simplex = solver.getModelPtr();
+  simplex->passInMessageHandler(&silent_);
+  simplex->setLogLevel(0);
+  IterationWatch const watch(task_.stop, tick_);
+  simplex->passInEventHandler(&watch);
+}
+
+void CbcSolver::Load(OsiClpSolverInterface& solver) {
+  auto const& linear = mip_.linear;
+  Control(solver);
+  solver.loadProblem(linear.Matrix(), linear.lower.data(), linear.upper.data(), linear.cost.data(),
+                     linear.rowLower.data(), linear.rowUpper.data());
+  solver.setObjSense(1.0);
+  solver.setDblParam(OsiPrimalTolerance, 0.1 * task_.parameters.Dbl(DblParam::kFeasTol));
+  solver.setDblParam(OsiDualTolerance, 0.1 * task_.parameters.Dbl(DblParam::kDualTol));
+  for (int col = 0; col < linear.ColCount(); ++col) {
+    if (mip_.isInteger[col]) solver.setInteger(col);
+  }
+}
+
+SolveResult CbcSolver::Run() {
+  Load(solver_);
+  if (!SolveRoot()) return Finish();
+  TakeStarts();
+  if (task_.stop.Asked()) {
+    result_.mipStatus = task_.stop.Reason();
+    return Finish();
+  }
+  auto reduced = Preprocess();
+  if (!reduced) return Finish();
+  Search(*reduced);
+  return Finish();
+}
+
+// The relaxation; false where it settles the problem.
+bool CbcSolver::SolveRoot() {
+  solver_.initialSolve();
+  result_.simplexIterations += solver_.getIterationCount();
+  if (task_.stop.Reason() != SolveStatus::kUnstarted) {
+    result_.mipStatus = task_.stop.Reason();
+    return false;
+  }
+  if (solver_.isProvenDualInfeasible()) return FinishUnboundedRoot();
+  if (solver_.isProvenPrimalInfeasible()) {
+    result_.mipStatus = SolveStatus::kInfeasible;
+    return false;
+  }
+  if (!solver_.isProvenOptimal()) {
+    result_.mipStatus = SolveStatus::kNumerical;
+    return false;
+  }
+  progress_.Update(0, 1, solver_.getObjValue());
+  task_.log.Print("Root relaxation: objective %.9e, %d iterations, %.1fs", ProblemValue(solver_.getObjValue()),
+                  solver_.getIterationCount(), task_.stop.Elapsed());
+  return true;
+}
+
+// What is discrete may bound what the relaxation does not. Within a wide box the search tells: a best point on the
+// box's border means unbounded.
+bool CbcSolver::FinishUnboundedRoot() {
+  task_.log.Line("The relaxation is unbounded or infeasible: searching within a box");
+  isBoxed_ = true;
+  for (int col = 0; col < mip_.linear.ColCount(); ++col) {
+    solver_.setColLower(col, std::max(solver_.getColLower()[col], std::min(-kBox, solver_.getColUpper()[col])));
+    solver_.setColUpper(col, std::min(solver_.getColUpper()[col], std::max(kBox, solver_.getColLower()[col])));
+  }
+  solver_.initialSolve();
+  if (task_.stop.Reason() != SolveStatus::kUnstarted) {
+    result_.mipStatus = task_.stop.Reason();
+    return false;
+  }
+  if (solver_.isProvenOptimal()) return true;
+  result_.mipStatus =
+      solver_.isProvenPrimalInfeasible() ? SolveStatus::kInfeasible : SolveStatus::kInfeasibleOrUnbounded;
+  return false;
+}
+
+void CbcSolver::TakeStarts() {
+  int number = 0;
+  for (auto const& start : task_.starts) {
+    ++number;
+    std::string cause;
+    if (TakeStart(start, cause)) {
+      task_.log.Print("MIP start %d: accepted, best objective so far %.9e", number, incumbents_.Best().objective);
+      progress_.Incumbent(EngineValue(incumbents_.Best().objective), 'S');
+    } else {
+      task_.log.Print("MIP start %d: rejected, %s", number, cause.c_str());
+    }
+  }
+}
+
+bool CbcSolver::TakeStart(MipStart const& start, std::string& cause) {
+  enum Mode { kRejectAll = 0, kFullOnly = 1, kNoRepair = 2 };
+  int const mode = task_.parameters.Int(IntParam::kMipStartMode);
+  auto const& columns = task_.data.columns;
+  bool isFull = true;
+  bool hasIntegers = true;
+  for (int col = 0; col < columns.Count(); ++col) {
+    bool const isOpen = start.values[col] == VORQ_UNDEFINED;
+    isFull &= !isOpen;
+    hasIntegers &= !isOpen || columns.type[col] == 'C';
+  }
+  cause = "the parameters say so";
+  if (mode == kRejectAll) return false;
+  if (isFull && incumbents_.KeepAsIs(start.values)) return true;
+  cause = isFull ? "infeasible" : "incomplete";
+  if (mode == kFullOnly || (mode == kNoRepair && isFull)) return false;
+  cause = "no solution with these values was found";
+  bool const isLinearRest = hasIntegers && task_.data.soss.empty();
+  if (!isLinearRest) return CompletePartial(start);
+  std::vector<double> values = start.values;
+  std::ranges::replace(values, VORQ_UNDEFINED, 0.0);
+  return incumbents_.Complete(values, false);
+}
+
+// Fixes the integer columns that the start gives and searches the rest for a while.
+bool CbcSolver::CompletePartial(MipStart const& start) {
+  constexpr int kNodes = 200;
+  OsiClpSolverInterface fixed(solver_);
+  Control(fixed);
+  for (int col = 0; col < task_.data.columns.Count(); ++col) {
+    if (start.values[col] == VORQ_UNDEFINED || !mip_.isInteger[col]) continue;
+    double const value = std::round(start.values[col]);
+    if (value < fixed.getColLower()[col] || value > fixed.getColUpper()[col]) return false;
+    fixed.setColBounds(col, value, value);
+  }
+  fixed.resolve();
+  if (!fixed.isProvenOptimal()) return false;
+  CbcModel model(fixed);
+  model.passInMessageHandler(&silent_);
+  model.setLogLevel(0);
+  SetUpCbc(model, task_.parameters, !mip_.sets.empty());
+  int const limit = task_.parameters.Int(IntParam::kMipStartNodeLimit);
+  model.setMaximumNodes(limit < 0 ? kNodes : limit);
+  model.setUseElapsedTime(true);
+  model.setMaximumSeconds(std::max(0.0, task_.stop.Remaining()));
+  AddSets(model);
+  model.branchAndBound();
+  if (model.bestSolution() == nullptr) return false;
+  std::vector<double> const values(model.bestSolution(), model.bestSolution() + task_.data.columns.Count());
+  return incumbents_.Complete(values, false);
+}
+
+bool CbcSolver::MayPreprocess() const {
+  return task_.parameters.Int(IntParam::kPresolve) != 0 && mip_.sets.empty() && !isBoxed_;
+}
+
+// The model to search; none where this settles the problem.
+std::unique_ptr<OsiClpSolverInterface> CbcSolver::Preprocess() {
+  if (!MayPreprocess()) return std::make_unique<OsiClpSolverInterface>(solver_);
+  preprocess_ = std::make_unique<CglPreProcess>();
+  preprocess_->passInMessageHandler(&silent_);
+  preprocess_->setTimeLimit(std::max(0.1, task_.stop.Remaining()), true);
+  CglProbing probing;
+  probing.setUsingObjective(1);
+  probing.setMaxPass(1);
+  probing.setMaxPassRoot(1);
+  probing.setMaxProbeRoot(std::min(3000, solver_.getNumCols()));
+  probing.setMaxElements(100);
+  probing.setMaxElementsRoot(200);
+  probing.setMaxLookRoot(50);
+  probing.setRowCuts(3);
+  preprocess_->addCutGenerator(&probing);
+  auto* processed =
+      dynamic_cast<OsiClpSolverInterface*>(preprocess_->preProcessNonDefault(solver_, 0, kPreprocessPasses));
+  if (task_.stop.Asked()) {
+    result_.mipStatus = task_.stop.Reason();
+    return nullptr;
+  }
+  if (processed == nullptr) {
+    result_.mipStatus = incumbents_.IsEmpty() ? SolveStatus::kInfeasible : SolveStatus::kOptimal;
+    return nullptr;
+  }
+  auto const* cols = preprocess_->originalColumns();
+  originalCols_.assign(cols, cols + processed->getNumCols());
+  auto reduced = std::make_unique<OsiClpSolverInterface>(*processed);
+  Control(*reduced);
+  task_.log.Print("Presolve: %d rows, %d columns, %lld elements left", reduced->getNumRows(), reduced->getNumCols(),
+                  static_cast<long long>(reduced->getNumElements()));
+  reduced->resolve();
+  return reduced;
+}
+
+void CbcSolver::AddSets(CbcModel& model) {
+  if (mip_.sets.empty()) return;
+  model.findIntegers(true);
+  std::vector<std::unique_ptr<CbcObject>> objects;
+  std::vector<CbcObject*> pointers;
+  for (auto const& set : mip_.sets) {
+    std::vector<double> weights(set.cols.size());
+    std::iota(weights.begin(), weights.end(), 1.0);
+    objects.push_back(std::make_unique<CbcSOS>(&model, static_cast<int>(set.cols.size()), set.cols.data(),
+                                               weights.data(), static_cast<int>(objects.size()), set.type));
+    // Before the integer columns: a set that is settled settles the most.
+    objects.back()->setPriority(100);
+    pointers.push_back(objects.back().get());
+  }
+  model.addObjects(static_cast<int>(pointers.size()), pointers.data());
+}
+
+// The best start as an incumbent of the search. Where the reduced model refuses it, it still cuts off what is worse.
+void CbcSolver::OfferStart(CbcModel& model, OsiClpSolverInterface const& reduced) {
+  if (incumbents_.IsEmpty()) return;
+  auto const& best = incumbents_.Best();
+  double const objective = EngineValue(best.objective);
+  int const cols = task_.data.columns.Count();
+  OsiClpSolverInterface fixed(reduced);
+  for (int col = 0; col < fixed.getNumCols(); ++col) {
+    int const original = originalCols_.empty() ? col : originalCols_[col];
+    if (!fixed.isInteger(col) || original < 0 || original >= cols) continue;
+    double const value = std::round(best.values[original]);
+    if (value < fixed.getColLower()[col] || value > fixed.getColUpper()[col]) continue;
+    fixed.setColBounds(col, value, value);
+  }
+  fixed.resolve();
+  if (mip_.sets.empty() && fixed.isProvenOptimal() && fixed.getObjValue() <= objective + 1e-6 * std::abs(objective)) {
+    std::vector<double> const values(fixed.getColSolution(), fixed.getColSolution() + fixed.getNumCols());
+    model.setBestSolution(values.data(), static_cast<int>(values.size()), fixed.getObjValue(), true);
+  }
+  if (model.bestSolution() == nullptr) model.setCutoff(objective);
+}
+
+void CbcSolver::Search(OsiClpSolverInterface& reduced) {
+  std::vector<std::vector<double>> found;
+  CbcModel model(reduced);
+  model.passInMessageHandler(&silent_);
+  model.setLogLevel(0);
+  SetUpCbc(model, task_.parameters, !mip_.sets.empty());
+  model.setUseElapsedTime(true);
+  model.setMaximumSeconds(std::max(0.0, task_.stop.Remaining()));
+  model.initialSolve();
+  AddSets(model);
+  OfferStart(model, reduced);
+  SearchWatch const watch(task_, progress_, found);
+  model.passInEventHandler(&watch);
+  tick_ = [this, &model](ClpSimplex const*) {
+    progress_.Tick();
+    if (task_.stop.Asked()) model.sayEventHappened();
+  };
+  model.branchAndBound();
+  tick_ = nullptr;
+
+  result_.nodes = std::max(model.getNodeCount(), 0);
+  result_.simplexIterations += std::max(model.getIterationCount(), 0);
+  Conclude(model);
+  std::vector<double> best;
+  if (model.bestSolution() != nullptr) {
+    best.assign(model.bestSolution(), model.bestSolution() + reduced.getNumCols());
+    KeepFinal(best, reduced);
+  }
+  for (auto const& values : found) CarryBack(values);
+  if (result_.mipStatus == SolveStatus::kOptimal && incumbents_.IsEmpty()) {
+    // The search found a solution, and it does not hold in the problem itself.
+    result_.mipStatus = best.empty() ? SolveStatus::kInfeasible : SolveStatus::kImprecise;
+    if (!best.empty() && originalCols_.empty()) {
+      result_.mipValues.assign(best.begin(), best.begin() + task_.data.columns.Count());
+    }
+  }
+}
+
+void CbcSolver::Conclude(CbcModel const& model) {
+  progress_.Update(result_.nodes, 0, model.getBestPossibleObjValue());
+  auto const stopped = task_.stop.Reason();
+  if (stopped != SolveStatus::kUnstarted) {
+    result_.mipStatus = stopped;
+  } else if (model.status() == kFinished || model.secondaryStatus() == kGapReached) {
+    result_.mipStatus = SolveStatus::kOptimal;  // infeasible where no solution turns up
+  } else if (model.secondaryStatus() == kNodesReached) {
+    result_.mipStatus = SolveStatus::kNodeLimit;
+  } else if (model.status() == kNumericalTrouble) {
+    result_.mipStatus = SolveStatus::kNumerical;
+  } else {
+    result_.mipStatus = task_.stop.Remaining() <= 0.05 ? SolveStatus::kTimeLimit : SolveStatus::kUnfinished;
+  }
+}
+
+// An incumbent met on the way: its columns that the reduced model still has, and the rest by a linear problem, which
+// gives integers as a rule.
+void CbcSolver::CarryBack(std::vector<double> const& reducedValues) {
+  if (task_.stop.Asked()) return;
+  if (originalCols_.empty()) {
+    incumbents_.Complete(reducedValues, false);
+    return;
+  }
+  OsiClpSolverInterface rest(solver_);
+  Control(rest);
+  auto const& linear = mip_.linear;
+  for (int col = 0; col < linear.ColCount(); ++col) rest.setColBounds(col, linear.lower[col], linear.upper[col]);
+  for (int col = 0; col < static_cast<int>(reducedValues.size()); ++col) {
+    int const original = originalCols_[col];
+    if (original < 0 || original >= linear.ColCount() || !mip_.isInteger[original]) continue;
+    double const value = std::round(reducedValues[col]);
+    rest.setColBounds(original, value, value);
+  }
+  rest.resolve();
+  if (!rest.isProvenOptimal()) return;
+  std::vector<double> const values(rest.getColSolution(), rest.getColSolution() + task_.data.columns.Count());
+  for (int col = 0; col < task_.data.columns.Count(); ++col) {
+    if (mip_.isInteger[col] && std::abs(values[col] - std::round(values[col])) > 1e-5) return;
+  }
+  incumbents_.Complete(values, false);
+}
+
+// The best solution, by way of the preprocessing's own road back.
+void CbcSolver::KeepFinal(std::vector<double> const& reducedValues, OsiClpSolverInterface const& reduced) {
+  bool const urgent = task_.stop.Reason() != SolveStatus::kUnstarted;
+  if (!preprocess_) {
+    incumbents_.Complete(reducedValues, urgent);
+    return;
+  }
+  static std::atomic<bool> const never = false;
+  StopSignal noStop(never, Clock::now(), 10.0);
+  IterationWatch::Report const silence;
+  IterationWatch const watch(noStop, silence);
+  OsiClpSolverInterface fixed(reduced);
+  fixed.getModelPtr()->passInEventHandler(&watch);
+  solver_.getModelPtr()->passInEventHandler(&watch);
+  for (int col = 0; col < fixed.getNumCols(); ++col) {
+    if (!fixed.isInteger(col)) continue;
+    double const value = std::round(reducedValues[col]);
+    fixed.setColBounds(col, value, value);
+  }
+  fixed.setColSolution(reducedValues.data());
+  fixed.resolve();
+  if (fixed.isProvenOptimal()) {
+    preprocess_->postProcess(fixed);
+    auto const* solution = solver_.getColSolution();
+    std::vector<double> const values(solution, solution + task_.data.columns.Count());
+    if (incumbents_.Complete(values, urgent)) return;
+  }
+  CarryBack(reducedValues);
+}
+
+SolveResult CbcSolver::Finish() {
+  if (!incumbents_.IsEmpty()) {
+    auto const& best = incumbents_.Best();
+    auto const& lp = incumbents_.BestLp();
+    result_.mipValues = best.values;
+    result_.mipObjective = best.objective;
+    result_.lp = lp.lp;
+    result_.lpObjective = lp.lpObjective;
+    result_.lpStatus = lp.lpStatus;
+    result_.basis = lp.basis;
+    result_.pool = incumbents_.Pool();
+  } else if (!result_.mipValues.empty()) {
+    result_.mipObjective = ObjectiveOf(task_.data, result_.mipValues);
+  }
+  bool const hasSolution = !result_.mipValues.empty();
+  if (isBoxed_ && hasSolution && result_.mipStatus == SolveStatus::kOptimal) {
+    bool const touches = std::ranges::any_of(result_.mipValues, [](double v) { return std::abs(v) >= 0.5 * kBox; });
+    if (touches) {
+      auto const iterations = result_.simplexIterations;
+      result_ = {};
+      result_.engine = "Cbc";
+      result_.isMip = true;
+      result_.simplexIterations = iterations;
+      result_.mipStatus = SolveStatus::kUnbounded;
+      return std::move(result_);
+    }
+  }
+  double bound = progress_.Bound();
+  if (hasSolution) bound = std::min(bound, EngineValue(result_.mipObjective));
+  bool const hasBound = std::abs(bound) < kInfinity && !isBoxed_;
+  result_.bestBound = hasBound ? ProblemValue(bound) : -mip_.linear.sign * kInfinity;
+  result_.bestGap = hasSolution && hasBound ? RelativeGap(result_.mipObjective, result_.bestBound) : kInfinity;
+  return std::move(result_);
+}
+
+}  // namespace
+
+std::string CbcEngine::Version() const {
+  return CBC_VERSION;
+}
+
+bool CbcEngine::Supports(ProblemClass const& what) const {
+  return what.IsLinear();
+}
+
+SolveResult CbcEngine::Solve(SolveTask const& task) const {
+  try {
+    return CbcSolver(task).Run();
+  } catch (CoinError const& error) {
+    throw Failure(VORQ_INTERNAL, "The engine Cbc failed: " + error.message());
+  }
+}
+
+}  // namespace vorqsolver

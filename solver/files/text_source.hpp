@@ -1,0 +1,80 @@
+// TextSource: the text of a file with its name, for failures that tell file, line and cause; LineReader walks its
+// lines. Plain and gzip files are read alike.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "solver/problem/failure.hpp"
+
+namespace vorqsolver {
+
+struct TextSource {
+  std::string name;
+  std::string text;
+};
+
+// Reads the whole file. Fails with VORQ_FILE where it cannot be opened, read or unpacked.
+TextSource LoadText(std::string const& path);
+
+// The text without a byte order mark. Fails with VORQ_FILE for a text with zero bytes.
+std::string_view CheckedText(TextSource const& source);
+
+// Throws Failure(VORQ_FILE) with the text "name:line: pieces".
+template <typename... Pieces>
+[[noreturn]] void RefuseText(TextSource const& source, std::size_t line, Pieces const&... pieces) {
+  throw Failure(VORQ_FILE, Text(source.name, ":", line, ": ", pieces...));
+}
+
+// As RefuseText, for a cause that lies in the problem and not in the file.
+template <typename... Pieces>
+[[noreturn]] void RefuseContent(TextSource const& source, std::size_t line, Pieces const&... pieces) {
+  throw Failure(VORQ_INVALID, Text(source.name, ":", line, ": ", pieces...));
+}
+
+class LineReader {
+ public:
+  explicit LineReader(TextSource const& source) : source_(source), rest_(CheckedText(source)) {}
+
+  // Goes to the next line; false at the end of the text.
+  bool Next();
+
+  std::string_view Line() const { return line_; }  // without the line end
+  std::size_t Number() const { return number_; }
+  TextSource const& Source() const { return source_; }
+
+  template <typename... Pieces>
+  [[noreturn]] void Refuse(Pieces const&... pieces) const {
+    RefuseText(source_, number_ == 0 ? 1 : number_, pieces...);
+  }
+
+ private:
+  TextSource const& source_;
+  std::string_view rest_;
+  std::string_view line_;
+  std::size_t number_ = 0;
+};
+
+inline bool IsBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\r' || c == '\v' || c == '\f';
+}
+std::string_view Trim(std::string_view text);
+bool EqualsNoCase(std::string_view a, std::string_view b);
+
+// The next word of `text`, which is cut off from it; the empty text where there is none.
+std::string_view NextWord(std::string_view& text);
+
+enum class NumberForm { kNone, kNumber, kOutOfRange };
+
+// Independent of the locale. The whole of `text` must be a number, with a sign or without; "inf" and "infinity" in any
+// mix of case give an infinite value.
+NumberForm ParseNumber(std::string_view text, double& value);
+
+// The number, or a failure that tells the line. Infinite values come back as kInfinity and its negative.
+double NumberAt(TextSource const& source, std::size_t line, std::string_view text);
+
+// As NumberAt, but infinite values are refused.
+double FiniteNumberAt(TextSource const& source, std::size_t line, std::string_view text);
+
+}  // namespace vorqsolver

@@ -1,0 +1,59 @@
+// What a change of the data does to results and starts.
+#include "solver/problem/problem.hpp"
+
+#include <algorithm>
+
+#include "solver/problem/remaining.hpp"
+
+namespace vorqsolver {
+
+namespace {
+
+int NonbasicStatus(double lower, double upper) {
+  if (lower > -kInfinity) return static_cast<int>(lower == upper ? BasisStatus::kFixed : BasisStatus::kLower);
+  return static_cast<int>(upper < kInfinity ? BasisStatus::kUpper : BasisStatus::kSuperBasic);
+}
+
+bool IsSized(Basis const& basis, ProblemData const& data) {
+  return basis.cols.size() == data.columns.type.size() && basis.rows.size() == data.rows.lower.size();
+}
+
+}  // namespace
+
+void Problem::DataChanged() {
+  bool const hadStart = !startBasis.cols.empty() || !startBasis.rows.empty();
+  if (!result.IsEmpty()) {
+    if (!hadStart && !result.isMip) startBasis = std::move(result.basis);
+    result = SolveResult();
+  }
+  if (!startBasis.cols.empty() || !startBasis.rows.empty()) {
+    while (startBasis.cols.size() < data.columns.type.size()) {
+      auto const col = startBasis.cols.size();
+      startBasis.cols.push_back(NonbasicStatus(data.columns.lower[col], data.columns.upper[col]));
+    }
+    startBasis.rows.resize(std::max(startBasis.rows.size(), data.rows.lower.size()),
+                           static_cast<int>(BasisStatus::kBasic));
+    if (!IsSized(startBasis, data)) startBasis = Basis();
+  }
+  for (auto& start : starts) start.values.resize(data.columns.type.size(), VORQ_UNDEFINED);
+}
+
+void Problem::ColumnsDeleted(std::span<int const> deleted) {
+  for (auto& start : starts) KeepRemaining(start.values, deleted);
+  RowsDeleted();
+}
+
+void Problem::RowsDeleted() {
+  startBasis = Basis();
+  result = SolveResult();
+}
+
+void Problem::ResetResults(bool all) {
+  result = SolveResult();
+  lastMessage.clear();
+  if (!all) return;
+  startBasis = Basis();
+  starts.clear();
+}
+
+}  // namespace vorqsolver

@@ -1,0 +1,54 @@
+// Problem: what a VORQ_Prob points to: the data, the parameters, the last results and where log lines go.
+#pragma once
+
+#include <atomic>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "frame/vorq_solver.h"
+#include "solver/parameters/parameter_set.hpp"
+#include "solver/problem/problem_data.hpp"
+#include "solver/problem/solution.hpp"
+#include "solver/tasks/log.hpp"
+
+namespace vorqsolver {
+
+struct UserCallback {
+  VORQ_CallbackFunction function = nullptr;
+  int contextMask = 0;
+  void* user = nullptr;
+};
+
+class Problem {
+ public:
+  ProblemData data;
+  ParameterSet parameters;
+  SolveResult result;
+
+  Basis startBasis;              // given by the caller for the next solve, empty if none
+  std::vector<MipStart> starts;  // MIP starts for the next solve
+
+  Log log{&parameters};
+  UserCallback callback;
+  std::atomic<bool> interrupted = false;
+  std::atomic<bool> solving = false;  // results and data must not change then
+
+  // The text of the last failure, for the log and for tools; return codes alone tell little of a bad file.
+  std::string lastMessage;
+
+  // To be called after each change of the data: results no longer hold, and the starts follow new columns and rows.
+  // The basis of the last linear solve stays as the start of the next one where the caller gave none.
+  void DataChanged();
+
+  // To be called after a deletion instead: a start basis may have lost its basic columns, so it goes; the MIP starts
+  // lose the entries of the deleted columns.
+  void ColumnsDeleted(std::span<int const> deleted);
+  void RowsDeleted();
+
+  // Forgets the results, and with `all` the starts too.
+  void ResetResults(bool all);
+};
+
+}  // namespace vorqsolver

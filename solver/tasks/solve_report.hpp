@@ -1,0 +1,18 @@
+// The log of a solve: what is said ahead of it and after it.
+#pragma once
+
+#include "solver/engines/engine.hpp"
+#include "solver/problem/problem.hpp"
+
+namespace vorqsolver {
+
+// The words for a status, such as "optimal".
+char const* StatusText(SolveStatus status);
+
+void LogHeader(Problem& problem, bool relaxed);
+void LogEngine(Problem& problem, Engine const& engine, ProblemClass const& what);
+
+// Status, objective, bound, gap, violations, nodes, time.
+void LogSummary(Problem& problem);
+
+}  // namespace vorqsolver

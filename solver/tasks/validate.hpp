@@ -1,0 +1,19 @@
+// Checks of a problem's data ahead of any engine: engines take bad data badly.
+#pragma once
+
+#include <string>
+
+#include "solver/problem/problem_data.hpp"
+
+namespace vorqsolver {
+
+class ParameterSet;
+
+// Throws Failure(VORQ_INVALID) for numbers that are none or too large, and for indices out of range.
+void Validate(ProblemData const& data);
+
+// Why the problem has no solution, where that is plain: bounds that cross, an integer column without an integer within
+// its bounds, an empty row that asks for something. Empty otherwise. With `relaxed`, columns count as continuous.
+std::string PlainInfeasibility(ProblemData const& data, ParameterSet const& parameters, bool relaxed);
+
+}  // namespace vorqsolver

@@ -1,0 +1,34 @@
+// The programs of the documentation, run as a user runs them.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/cli/program.hpp"
+
+namespace {
+
+using testing::HasSubstr;
+
+ProgramResult RunExample(std::string const& name) {
+  return RunProgram(VORQ_EXAMPLES "/" + name);
+}
+
+TEST(Documentation, FirstModelPrintsTheOptimum) {
+  ProgramResult const result = RunExample("first_model");
+  EXPECT_EQ(result.exitCode, 0) << result.errors;
+  EXPECT_THAT(result.output, HasSubstr("profit 14 with x = 4, y = 1\n"));
+}
+
+TEST(Documentation, ModelTourPrintsBothSolutions) {
+  ProgramResult const result = RunExample("model_tour");
+  EXPECT_EQ(result.exitCode, 0) << result.errors;
+  EXPECT_THAT(result.output, HasSubstr("(INVALID) Invalid variable\n"));
+  EXPECT_THAT(result.output, HasSubstr("the row has 2 terms, the bound is 60\n"));
+}
+
+TEST(Documentation, SolvingTourPrintsValueAndDuals) {
+  ProgramResult const result = RunExample("solving_tour");
+  EXPECT_EQ(result.exitCode, 0) << result.errors;
+  EXPECT_THAT(result.output, HasSubstr("cost 420, dual 5, reduced cost -2\n"));
+}
+
+}  // namespace

@@ -1,0 +1,100 @@
+// Arrays without elements or without a store, and shapes that do not fit: nothing outside of the store is read.
+#include <gtest/gtest.h>
+
+#include <new>
+
+#include "ndarray/elementwise.hpp"
+#include "ndarray/view.hpp"
+#include "tests/ndarray/arrays.hpp"
+
+namespace {
+
+using arrays::Counting;
+using arrays::Elements;
+using Vorq::Axis;
+using Vorq::NdArray;
+using Vorq::NDim;
+using Ints = std::vector<int>;
+
+TEST(EmptyArray, ReadsDefaultsAndIgnoresWrites) {
+  auto array = Counting<int, 2>({3, 0});
+  EXPECT_EQ(array.Get(0), 0);
+  EXPECT_EQ(array.Get(7), 0);
+  array.Set(0, 5);
+  array.Fill(5);
+  EXPECT_EQ(array.Get(0), 0);
+}
+
+TEST(EmptyArray, FailuresHoldADefaultElement) {
+  Vorq::View view;
+  view.Full();
+  view.Full();
+  auto const failed = Counting<int, 1>({0}).View(view);
+  EXPECT_EQ(Elements(failed), Ints{0});
+  EXPECT_STREQ(failed.GetErrorMessage(), "(INVALID) View has more operations than #ND (1)");
+}
+
+TEST(EmptyArray, StaysEmptyUnderEachOperation) {
+  auto const array = Counting<int, 3>({2, 0, 3});
+  EXPECT_EQ(array.Flatten().GetSize(), 0U);
+  EXPECT_EQ(array.Transpose().Flatten().GetSize(), 0U);
+  EXPECT_EQ(array.Repeat(4, 1).GetShape().ToString(0), "(2, 0, 3)");
+  EXPECT_EQ(array.RepeatBlock(4, 0).GetShape().ToString(0), "(8, 0, 3)");
+}
+
+TEST(EmptyArray, GathersDefaults) {
+  auto const array = Counting<int, 1>({0});
+  EXPECT_EQ(Elements(array.Pick(Counting<int, 1>({2}))), (Ints{0, 0}));
+  EXPECT_EQ(Elements(array.PickAt(Counting<int, 2>({2, 1}))), (Ints{0, 0}));
+}
+
+TEST(StorelessArray, KeepsItsSizesAndReadsDefaults) {
+  NdArray<int, 2> array(NDim<2>({2, 2}), {});
+  EXPECT_EQ(array.GetSize(), 4U);
+  EXPECT_EQ(Elements(array), (Ints{0, 0, 0, 0}));
+  array.Set(1, 5);
+  array.Fill(5);
+  EXPECT_EQ(array.Get(1), 0);
+  EXPECT_EQ(Vorq::Sum(array).Get(0), 0);
+  EXPECT_EQ(Vorq::ToString(array, 100), "[[0, 0]\n [0, 0]\n]\n");
+}
+
+TEST(StorelessArray, GivesArraysOfDefaults) {
+  NdArray<int, 2> const array(NDim<2>({2, 2}), {});
+  EXPECT_EQ(Elements(array.Flatten()), (Ints{0, 0, 0, 0}));
+  EXPECT_EQ(Elements(array.Transpose().Flatten()), (Ints{0, 0, 0, 0}));
+  EXPECT_EQ(Elements(array.Reshape(NDim<1>({4}))), (Ints{0, 0, 0, 0}));
+  EXPECT_EQ(Elements(array.Repeat(2, 0)), (Ints{0, 0, 0, 0, 0, 0, 0, 0}));
+  EXPECT_EQ(Elements(array.Pick(Counting<int, 1>({2}))), (Ints{0, 0}));
+  EXPECT_EQ(Elements(array.PickAt(Counting<int, 2>({2, 2}))), (Ints{0, 0}));
+  EXPECT_EQ(Elements(Vorq::Map<int>(array, [](int x) { return x + 1; })), (Ints{1, 1, 1, 1}));
+}
+
+TEST(StorelessArray, AsIndicesPicksTheFirstElement) {
+  auto const array = Counting<int, 1>({3});
+  EXPECT_EQ(Elements(array.Pick(NdArray<int, 1>(NDim<1>({2}), {}))), (Ints{0, 0}));
+  EXPECT_EQ(Elements(array.PickAt(NdArray<int, 2>(NDim<2>({2, 1}), {}))), (Ints{0, 0}));
+}
+
+TEST(Reshape, ToAShapeThatReachesBeyondTheStoreFails) {
+  auto const array = Counting<int, 1>({3});
+  auto const beyond = array.Reshape(NDim<1>::FromAxes({Axis{3, 2, 0}}));
+  EXPECT_STREQ(beyond.GetErrorMessage(), "(INVALID) Cannot reshape NdArray of size 3 to new shape (3)");
+  auto const before = array.Reshape(NDim<1>::FromAxes({Axis{3, -1, 1}}));
+  EXPECT_STREQ(before.GetErrorMessage(), "(INVALID) Cannot reshape NdArray of size 3 to new shape (3)");
+  EXPECT_EQ(Elements(array.Reshape(NDim<1>::FromAxes({Axis{3, -1, 2}}))), (Ints{2, 1, 0}));
+}
+
+TEST(Reshape, ToSizesWhoseProductWrapsAroundFails) {
+  auto const failed = Counting<int, 1>({6}).Reshape(NDim<2>({(1ULL << 63) + 3, 2}));
+  EXPECT_STREQ(failed.GetErrorMessage(),
+               "(INVALID) Cannot reshape NdArray of size 6 to new shape (9223372036854775811, 2)");
+}
+
+TEST(Repeat, BeyondAllMemoryThrowsTheAllocationFailure) {
+  auto const array = Counting<int, 2>({2, 3});
+  EXPECT_THROW(static_cast<void>(array.Repeat(1ULL << 63, 0)), std::bad_alloc);
+  EXPECT_THROW(static_cast<void>(array.Repeat(1ULL << 61, 1)), std::bad_alloc);
+}
+
+}  // namespace
