@@ -7,6 +7,7 @@
 
 #include "solver/api/arguments.hpp"
 #include "solver/api/item_kinds.hpp"
+#include "solver/problem/row_activity.hpp"
 
 using namespace vorqsolver;
 
@@ -32,18 +33,8 @@ std::vector<double> const& OfLinearSolve(Problem const& problem, std::vector<dou
   return Found(problem.result.lp.*list, count, what);
 }
 
-// The distance to the upper side of a row, or to the lower one where that is the only side.
-double SlackAt(Rows const& rows, int row, std::vector<double> const& values) {
-  auto const [cols, coefs] = rows.matrix.Row(row);
-  double activity = 0.0;
-  for (std::size_t k = 0; k < cols.size(); ++k) activity += coefs[k] * values[static_cast<std::size_t>(cols[k])];
-  auto const place = static_cast<std::size_t>(row);
-  if (rows.upper[place] < kInfinity) return rows.upper[place] - activity;
-  return rows.lower[place] > -kInfinity ? activity - rows.lower[place] : kInfinity;
-}
-
-double RowSlack(Problem const& problem, int row) {
-  if (problem.result.isMip) return SlackAt(problem.data.rows, row, ColumnValues(problem));
+double SlackOfRow(Problem const& problem, int row) {
+  if (problem.result.isMip) return RowSlack(problem.data.rows, row, ColumnValues(problem));
   return Found(problem.result.lp.slacks, problem.data.rows.lower.size(), "slack")[static_cast<std::size_t>(row)];
 }
 
@@ -79,16 +70,26 @@ constexpr NumberInfo kColumnInfos[] = {
        auto const count = problem.data.columns.type.size();
        return OfLinearSolve(problem, &LpSolution::reducedCosts, count, "reduced cost")[static_cast<std::size_t>(col)];
      }},
+    {"PrimalRay",
+     [](Problem const& problem, int col) {
+       auto const count = problem.data.columns.type.size();
+       return Found(problem.result.primalRay, count, "primal ray")[static_cast<std::size_t>(col)];
+     }},
 };
 
 constexpr NumberInfo kRowInfos[] = {
     {"LB", OfRow<&Rows::lower>},
     {"UB", OfRow<&Rows::upper>},
-    {"Slack", RowSlack},
+    {"Slack", SlackOfRow},
     {"Dual",
      [](Problem const& problem, int row) {
        auto const count = problem.data.rows.lower.size();
        return OfLinearSolve(problem, &LpSolution::duals, count, "dual solution")[static_cast<std::size_t>(row)];
+     }},
+    {"DualFarkas",
+     [](Problem const& problem, int row) {
+       auto const count = problem.data.rows.lower.size();
+       return Found(problem.result.farkasRay, count, "Farkas ray")[static_cast<std::size_t>(row)];
      }},
 };
 
@@ -128,31 +129,20 @@ struct MatrixInfo {
   char const* what;
 };
 
+template <typename Solution, Solution SolveResult::*solution, std::vector<double> Solution::*list>
+std::vector<double> const& Matrices(SolveResult const& result) {
+  return result.*solution.*list;
+}
+
 constexpr MatrixInfo kPsdColumnInfos[] = {
-    {"Value", [](SolveResult const& result) -> auto const& {return result.psd.values;
-}  // namespace
-, "solution"
-}
-, {"RedCost", [](SolveResult const& result) -> auto const& {return result.psd.reducedCosts;
-}
-, "reduced cost"
-}
-,
-}
-;
+    {"Value", Matrices<PsdSolution, &SolveResult::psd, &PsdSolution::values>, "solution"},
+    {"RedCost", Matrices<PsdSolution, &SolveResult::psd, &PsdSolution::reducedCosts>, "reduced cost"},
+};
 
 constexpr MatrixInfo kLmiConstraintInfos[] = {
-    {"Slack", [](SolveResult const& result) -> auto const& {return result.lmi.slacks;
-}
-, "slack"
-}
-, {"Dual", [](SolveResult const& result) -> auto const& {return result.lmi.duals;
-}
-, "dual solution"
-}
-,
-}
-;
+    {"Slack", Matrices<LmiSolution, &SolveResult::lmi, &LmiSolution::slacks>, "slack"},
+    {"Dual", Matrices<LmiSolution, &SolveResult::lmi, &LmiSolution::duals>, "dual solution"},
+};
 
 // ------------------------------------------------------------------ the frames
 

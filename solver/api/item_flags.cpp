@@ -21,12 +21,6 @@ int GetFlags(VORQ_Prob* prob, ItemKind const& kind, int count, int const* indice
   });
 }
 
-// The basis of the last solve, or the one that the caller gave for the next.
-Basis const& BasisOf(Problem const& problem) {
-  auto const& found = problem.result.basis;
-  return found.cols.empty() && found.rows.empty() ? problem.startBasis : found;
-}
-
 int GetIisFlags(VORQ_Prob* prob, ItemKind const& kind, int count, int const* indices, int* flags,
                 std::vector<int> Iis::*list) {
   return GetFlags(
@@ -41,13 +35,13 @@ int GetIisFlags(VORQ_Prob* prob, ItemKind const& kind, int count, int const* ind
 int VORQ_GetColBasis(VORQ_Prob* prob, int count, int const* indices, int* basis) {
   return GetFlags(
       prob, kColumnKind, count, indices, basis, "basis",
-      [](Problem const& problem) -> auto const& { return BasisOf(problem).cols; });
+      [](Problem const& problem) -> auto const& { return problem.CurrentBasis().cols; });
 }
 
 int VORQ_GetRowBasis(VORQ_Prob* prob, int count, int const* indices, int* basis) {
   return GetFlags(
       prob, kRowKind, count, indices, basis, "basis",
-      [](Problem const& problem) -> auto const& { return BasisOf(problem).rows; });
+      [](Problem const& problem) -> auto const& { return problem.CurrentBasis().rows; });
 }
 
 #define VORQ_IIS_READER(name, kind, list)                                               \

@@ -35,12 +35,6 @@ void RequireSize(std::size_t size, int count, char const* missing) {
   if (static_cast<int>(size) != count) Refuse("There is no ", missing);
 }
 
-bool HasLpSolution(Problem const& problem) {
-  auto const& result = problem.result;
-  return std::ssize(result.lp.values) == problem.data.columns.Count() &&
-         (!result.lp.values.empty() || result.lpStatus == SolveStatus::kOptimal);
-}
-
 std::vector<int> CheckedBasis(int const* codes, int count, char const* what) {
   if (count > 0) Need(codes, what);
   std::vector<int> basis(codes, codes + count);
@@ -97,7 +91,7 @@ int VORQ_GetSolution(VORQ_Prob* prob, double* values) {
   return Guard(prob, [&](Problem& problem) {
     Need(values, "values");
     auto const& result = problem.result;
-    if (!result.isMip && HasLpSolution(problem)) {
+    if (!result.isMip && problem.HasLpSolution()) {
       CopyOut(result.lp.values, values);
       return;
     }
@@ -109,7 +103,7 @@ int VORQ_GetSolution(VORQ_Prob* prob, double* values) {
 int VORQ_GetLpSolution(VORQ_Prob* prob, double* values, double* slacks, double* duals, double* redCosts) {
   return Guard(prob, [&](Problem& problem) {
     auto const& lp = problem.result.lp;
-    if (!HasLpSolution(problem)) Refuse("There is no LP solution");
+    if (!problem.HasLpSolution()) Refuse("There is no LP solution");
     if (slacks != nullptr) RequireSize(lp.slacks.size(), problem.data.rows.Count(), "slack");
     if (duals != nullptr) RequireSize(lp.duals.size(), problem.data.rows.Count(), "dual solution");
     if (redCosts != nullptr) RequireSize(lp.reducedCosts.size(), problem.data.columns.Count(), "reduced cost");
@@ -170,10 +164,8 @@ int VORQ_GetLMISolution(VORQ_Prob* prob, double* slacks, double* duals) {
 
 int VORQ_GetBasis(VORQ_Prob* prob, int* colBasis, int* rowBasis) {
   return Guard(prob, [&](Problem& problem) {
-    auto const& basis = CurrentBasis(problem);
-    RequireSize(basis.cols.size(), problem.data.columns.Count(), "basis");
-    RequireSize(basis.rows.size(), problem.data.rows.Count(), "basis");
-    if (basis.cols.empty() && basis.rows.empty()) Refuse("There is no basis");
+    if (!problem.HasBasis()) Refuse("There is no basis");
+    auto const& basis = problem.CurrentBasis();
     CopyOut(basis.cols, colBasis);
     CopyOut(basis.rows, rowBasis);
   });

@@ -26,6 +26,9 @@ namespace {
 // At the root, and in the tree only where the cuts proved of use there.
 constexpr int kWhereUseful = -98;
 
+// A negative number stands for the depth -2 - number, here 10.
+constexpr int kFastDepth = -12;
+
 void AddCuts(CbcModel& model) {
   CglProbing probing;
   probing.setUsingObjective(1);
@@ -95,11 +98,13 @@ void SetUpCbc(CbcModel& model, ParameterSet const& parameters, bool plain) {
   if (parameters.Int(IntParam::kCutLevel) != 0) AddCuts(model);
   if (parameters.Int(IntParam::kHeurLevel) != 0 && !plain) AddHeuristics(model);
   model.setNumberStrong(parameters.Int(IntParam::kStrongBranching) == 0 ? 0 : 5);
-  model.setNumberBeforeTrust(10);
+  // More trials than usual: with fewer, a small general-integer problem such as bell5 can take many times as long.
+  model.setNumberBeforeTrust(20);
   model.setMaximumCutPassesAtRoot(-100);
   model.setMaximumCutPasses(10);
   model.setMinimumDrop(1e-4);
-  if (getenv("FND")) model.setFastNodeDepth(atoi(getenv("FND")));
+  // From this depth on small subtrees are searched at one go, by linear solves alone. Such a search sees no SOS.
+  if (!plain) model.setFastNodeDepth(kFastDepth);
 
   model.setIntegerTolerance(parameters.Dbl(DblParam::kIntTol));
   model.setAllowableGap(parameters.Dbl(DblParam::kAbsGap));

@@ -7,6 +7,7 @@
 #include <numeric>
 
 #include "solver/problem/failure.hpp"
+#include "solver/problem/row_activity.hpp"
 
 namespace vorqsolver {
 
@@ -172,18 +173,7 @@ void ReadLpSolution(ClpSimplex const& simplex, LinearModel const& model, Problem
 
 std::vector<double> Slacks(ProblemData const& data, std::span<double const> values) {
   std::vector<double> slacks(data.rows.Count());
-  for (int row = 0; row < data.rows.Count(); ++row) {
-    auto const view = data.rows.matrix.Row(row);
-    double activity = 0.0;
-    for (std::size_t k = 0; k < view.indices.size(); ++k) activity += view.values[k] * values[view.indices[k]];
-    if (data.rows.upper[row] < kInfinity) {
-      slacks[row] = data.rows.upper[row] - activity;
-    } else if (data.rows.lower[row] > -kInfinity) {
-      slacks[row] = activity - data.rows.lower[row];
-    } else {
-      slacks[row] = kInfinity;
-    }
-  }
+  for (int row = 0; row < data.rows.Count(); ++row) slacks[row] = RowSlack(data.rows, row, values);
   return slacks;
 }
 

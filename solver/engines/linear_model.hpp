@@ -54,7 +54,7 @@ double ToEngine(double bound);  // the engine's infinity for ours
 // Values, slacks, duals, reduced costs, basis and objective of the rows and columns of `data`, signs as documented.
 void ReadLpSolution(ClpSimplex const& simplex, LinearModel const& model, ProblemData const& data, SolveResult& result);
 
-// Slacks of a point: distance to the upper side of a row, or to the lower one where that is the only side.
+// The slack of each row.
 std::vector<double> Slacks(ProblemData const& data, std::span<double const> values);
 
 double ObjectiveOf(ProblemData const& data, std::span<double const> values);

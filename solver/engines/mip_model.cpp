@@ -5,6 +5,7 @@
 #include <cmath>
 #include <numeric>
 
+#include "solver/engines/implied_bounds.hpp"
 #include "solver/problem/failure.hpp"
 
 namespace vorqsolver {
@@ -60,6 +61,11 @@ MipModel::MipModel(ProblemData const& data, ParameterSet const& parameters) : li
     if (isSemi && hasGap) AddSemicontinuous(col, columns.lower[col], columns.upper[col]);
   }
   for (auto const& sos : data.soss) AddSos(sos);
+  if (!data.indicators.empty()) {
+    impliedLower_.assign(linear.lower.begin(), linear.lower.begin() + columns.Count());
+    impliedUpper_.assign(linear.upper.begin(), linear.upper.begin() + columns.Count());
+    TightenByRows(data.rows, impliedLower_, impliedUpper_);
+  }
   for (auto const& indicator : data.indicators) AddIndicator(indicator);
 }
 
@@ -134,7 +140,7 @@ double MipModel::GreatestActivity(std::span<LinearTerm const> terms) const {
   double activity = 0.0;
   for (auto const& term : terms) {
     if (term.value == 0.0) continue;
-    double const bound = term.value > 0.0 ? linear.upper[term.col] : linear.lower[term.col];
+    double const bound = term.value > 0.0 ? impliedUpper_[term.col] : impliedLower_[term.col];
     if (std::abs(bound) >= kInfinity) return kInfinity;
     activity += term.value * bound;
   }

@@ -32,6 +32,10 @@ class MipModel {
   void AddIndicator(Indicator const& indicator);
   void AddImplication(int binary, bool whenOne, std::span<LinearTerm const> terms, double rhs);
   double GreatestActivity(std::span<LinearTerm const> terms) const;
+
+  // Bounds of the problem's columns that hold at every point that satisfies the rows; for the indicators.
+  std::vector<double> impliedLower_;
+  std::vector<double> impliedUpper_;
 };
 
 // The columns of an SOS in the order of their weights, or as given where there are none.

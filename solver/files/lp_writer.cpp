@@ -9,6 +9,7 @@
 
 #include "solver/files/file_names.hpp"
 #include "solver/files/lp_tokens.hpp"
+#include "solver/problem/deletion.hpp"
 #include "solver/problem/failure.hpp"
 
 namespace vorqsolver {
@@ -38,6 +39,7 @@ class LpWriter {
 
   WrittenModel Write() {
     RefuseConicKinds(data_, "LP");
+    CheckNoLostColumns(data_);
     FitAllNames();
     WriteObjective();
     WriteConstraints();

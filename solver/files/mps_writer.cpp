@@ -10,6 +10,7 @@
 
 #include "solver/files/file_names.hpp"
 #include "solver/files/text_source.hpp"
+#include "solver/problem/deletion.hpp"
 #include "solver/problem/failure.hpp"
 
 namespace vorqsolver {
@@ -62,6 +63,7 @@ class MpsWriter {
 
   WrittenModel Write() {
     RefuseConicKinds(data_, "MPS");
+    CheckNoLostColumns(data_);
     CollectRows();
     WriteHead();
     WriteRows();

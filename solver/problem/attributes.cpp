@@ -11,7 +11,7 @@
 #include "solver/engines/problem_class.hpp"
 #include "solver/parameters/name_index.hpp"
 #include "solver/problem/failure.hpp"
-#include "solver/tasks/solve.hpp"
+#include "solver/problem/row_activity.hpp"
 
 namespace vorqsolver {
 namespace {
@@ -52,25 +52,6 @@ int LmiLens(Problem const& problem) {
 
 // ------------------------------------------------------------------ the results
 
-// A problem without columns has a solution of length 0, which only the status tells from none.
-bool HasSolution(Problem const& problem, std::vector<double> const& values, SolveStatus status) {
-  return std::ssize(values) == problem.data.columns.Count() && (!values.empty() || status == SolveStatus::kOptimal);
-}
-
-bool HasLpSolution(Problem const& problem) {
-  return HasSolution(problem, problem.result.lp.values, problem.result.lpStatus);
-}
-
-bool HasMipSolution(Problem const& problem) {
-  return HasSolution(problem, problem.result.mipValues, problem.result.mipStatus);
-}
-
-bool HasBasis(Problem const& problem) {
-  Basis const& basis = CurrentBasis(problem);
-  return std::ssize(basis.cols) == problem.data.columns.Count() &&
-         std::ssize(basis.rows) == problem.data.rows.Count() && !(basis.cols.empty() && basis.rows.empty());
-}
-
 // How many positions have a flag in either list; the lists may differ in length.
 int CountFlags(std::vector<int> const& lower, std::vector<int> const& upper) {
   int count = 0;
@@ -89,12 +70,12 @@ double BestConceivable(Problem const& problem) {
 }
 
 double LpObjective(Problem const& problem) {
-  if (HasLpSolution(problem)) return problem.result.lpObjective;
+  if (problem.HasLpSolution()) return problem.result.lpObjective;
   return problem.result.lpStatus == SolveStatus::kUnbounded ? BestConceivable(problem) : WorstObjective(problem);
 }
 
 double BestObjective(Problem const& problem) {
-  return HasMipSolution(problem) ? problem.result.mipObjective : WorstObjective(problem);
+  return problem.HasMipSolution() ? problem.result.mipObjective : WorstObjective(problem);
 }
 
 double BestBound(Problem const& problem) {
@@ -108,7 +89,7 @@ double BestBound(Problem const& problem) {
 }
 
 double BestGap(Problem const& problem) {
-  return HasMipSolution(problem) ? problem.result.bestGap : kInfinity;
+  return problem.HasMipSolution() ? problem.result.bestGap : kInfinity;
 }
 
 // ------------------------------------------------------------------ infeasibilities
@@ -135,15 +116,6 @@ class Infeasibility {
   int count_ = 0;
 };
 
-double Activity(Problem const& problem, int row, std::vector<double> const& values) {
-  SparseMatrix::View const entries = problem.data.rows.matrix.Row(row);
-  double activity = 0.0;
-  for (std::size_t k = 0; k < entries.indices.size(); ++k) {
-    activity += entries.values[k] * values[static_cast<std::size_t>(entries.indices[k])];
-  }
-  return activity;
-}
-
 // Visits each column, then each row, with its value, lower bound, upper bound and position.
 template <class VisitColumn, class VisitRow>
 void WalkBounds(Problem const& problem, std::vector<double> const& values, VisitColumn visitColumn, VisitRow visitRow) {
@@ -152,17 +124,17 @@ void WalkBounds(Problem const& problem, std::vector<double> const& values, Visit
   Rows const& rows = problem.data.rows;
   for (int row = 0; row < rows.Count(); ++row) {
     auto const i = static_cast<std::size_t>(row);
-    visitRow(Activity(problem, row, values), rows.lower[i], rows.upper[i], i);
+    visitRow(RowActivity(rows, row, values), rows.lower[i], rows.upper[i], i);
   }
 }
 
 // How far the solution, of the MIP if there is one, lies outside of the bounds of columns and linear rows.
 Infeasibility PrimalInfeasibility(Problem const& problem) {
-  if (!HasMipSolution(problem) && !HasLpSolution(problem)) Refuse("There is no solution");
+  if (!problem.HasMipSolution() && !problem.HasLpSolution()) Refuse("There is no solution");
   Infeasibility infeasibility(problem.parameters.Dbl(DblParam::kFeasTol));
   auto const outside = [](double value, double lower, double upper) { return std::max(lower - value, value - upper); };
   WalkBounds(
-      problem, HasMipSolution(problem) ? problem.result.mipValues : problem.result.lp.values,
+      problem, problem.HasMipSolution() ? problem.result.mipValues : problem.result.lp.values,
       [&](double value, double lower, double upper, std::size_t j) {
         char const type = problem.data.columns.type[j];
         double const amount = outside(value, lower, upper);
@@ -177,7 +149,7 @@ Infeasibility PrimalInfeasibility(Problem const& problem) {
 // by growing, one above its lower bound must not gain by shrinking.
 Infeasibility DualInfeasibility(Problem const& problem) {
   LpSolution const& lp = problem.result.lp;
-  if (!HasLpSolution(problem) || std::ssize(lp.duals) != problem.data.rows.Count() ||
+  if (!problem.HasLpSolution() || std::ssize(lp.duals) != problem.data.rows.Count() ||
       std::ssize(lp.reducedCosts) != problem.data.columns.Count()) {
     Refuse("There is no dual solution");
   }
@@ -273,11 +245,11 @@ constexpr AttrRow<int> kIntRows[] = {
     {"NodeCnt", [](P p) { return p.result.nodes; }},
     {"PoolSols", [](P p) { return ToInt(p.result.pool.size()); }},
     {"TuneResults", Never},
-    {"HasLpSol", [](P p) { return HasLpSolution(p) ? 1 : 0; }},
+    {"HasLpSol", [](P p) { return p.HasLpSolution() ? 1 : 0; }},
     {"HasDualFarkas", [](P p) { return p.result.farkasRay.empty() ? 0 : 1; }},
     {"HasPrimalRay", [](P p) { return p.result.primalRay.empty() ? 0 : 1; }},
-    {"HasBasis", [](P p) { return HasBasis(p) ? 1 : 0; }},
-    {"HasMipSol", [](P p) { return HasMipSolution(p) ? 1 : 0; }},
+    {"HasBasis", [](P p) { return p.HasBasis() ? 1 : 0; }},
+    {"HasMipSol", [](P p) { return p.HasMipSolution() ? 1 : 0; }},
     {"HasQObj", [](P p) { return p.data.objective.quadratic.empty() ? 0 : 1; }},
     {"HasNLObj", Never},
     {"HasPSDObj", [](P p) { return p.data.objective.psd.empty() ? 0 : 1; }},

@@ -18,15 +18,41 @@ bool IsSized(Basis const& basis, ProblemData const& data) {
   return basis.cols.size() == data.columns.type.size() && basis.rows.size() == data.rows.lower.size();
 }
 
+// A problem without columns has a solution of length 0, which only the status tells from none.
+bool IsSolution(ProblemData const& data, std::vector<double> const& values, SolveStatus status) {
+  return std::ssize(values) == data.columns.Count() && (!values.empty() || status == SolveStatus::kOptimal);
+}
+
+bool IsEmpty(Basis const& basis) {
+  return basis.cols.empty() && basis.rows.empty();
+}
+
 }  // namespace
 
+bool Problem::HasLpSolution() const {
+  return IsSolution(data, result.lp.values, result.lpStatus);
+}
+
+bool Problem::HasMipSolution() const {
+  return IsSolution(data, result.mipValues, result.mipStatus);
+}
+
+Basis const& Problem::CurrentBasis() const {
+  return IsEmpty(startBasis) ? result.basis : startBasis;
+}
+
+bool Problem::HasBasis() const {
+  Basis const& basis = CurrentBasis();
+  return !IsEmpty(basis) && IsSized(basis, data);
+}
+
 void Problem::DataChanged() {
-  bool const hadStart = !startBasis.cols.empty() || !startBasis.rows.empty();
+  bool const hadStart = !IsEmpty(startBasis);
   if (!result.IsEmpty()) {
     if (!hadStart && !result.isMip) startBasis = std::move(result.basis);
     result = SolveResult();
   }
-  if (!startBasis.cols.empty() || !startBasis.rows.empty()) {
+  if (!IsEmpty(startBasis)) {
     while (startBasis.cols.size() < data.columns.type.size()) {
       auto const col = startBasis.cols.size();
       startBasis.cols.push_back(NonbasicStatus(data.columns.lower[col], data.columns.upper[col]));

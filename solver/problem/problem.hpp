@@ -38,6 +38,15 @@ class Problem {
   // The text of the last failure, for the log and for tools; return codes alone tell little of a bad file.
   std::string lastMessage;
 
+  // Whether the last solve left a solution of that kind, or the caller gave one.
+  bool HasLpSolution() const;
+  bool HasMipSolution() const;
+
+  // The basis that the next LP solve starts from, and that reads of the basis give: the one set by the caller,
+  // otherwise that of the last solve; empty if there is none.
+  Basis const& CurrentBasis() const;
+  bool HasBasis() const;
+
   // To be called after each change of the data: results no longer hold, and the starts follow new columns and rows.
   // The basis of the last linear solve stays as the start of the next one where the caller gave none.
   void DataChanged();

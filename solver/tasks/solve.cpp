@@ -6,6 +6,7 @@
 
 #include "solver/engines/cbc_engine.hpp"
 #include "solver/engines/clp_engine.hpp"
+#include "solver/problem/deletion.hpp"
 #include "solver/problem/failure.hpp"
 #include "solver/tasks/check.hpp"
 #include "solver/tasks/solve_report.hpp"
@@ -17,11 +18,6 @@ std::span<std::unique_ptr<Engine const> const> Engines() {
   static std::array<std::unique_ptr<Engine const>, 2> const engines = {std::make_unique<ClpEngine>(),
                                                                        std::make_unique<CbcEngine>()};
   return engines;
-}
-
-Basis const& CurrentBasis(Problem const& problem) {
-  bool const isGiven = !problem.startBasis.cols.empty() || !problem.startBasis.rows.empty();
-  return isGiven ? problem.startBasis : problem.result.basis;
 }
 
 namespace {
@@ -47,7 +43,7 @@ struct Start {
 
 Start TakeStart(Problem& problem) {
   Start start;
-  auto const& basis = CurrentBasis(problem);
+  auto const& basis = problem.CurrentBasis();
   if (Fits(basis, problem.data) && problem.data.columns.Count() > 0) {
     start.basis = basis;
   } else if (!problem.startBasis.cols.empty()) {
@@ -78,6 +74,7 @@ void CheckResult(Problem& problem, bool relaxed) {
 
 SolveResult Run(Problem& problem, bool relaxed, Start const& start, Clock::time_point begin) {
   auto const& data = problem.data;
+  CheckNoLostColumns(data);
   auto const all = Classify(data);
   auto const what = relaxed ? all.Relaxed() : all;
   auto const& engine = ChooseEngine(what);

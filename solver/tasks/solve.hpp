@@ -17,8 +17,4 @@ std::span<std::unique_ptr<Engine const> const> Engines();
 // where the data is unfit or no engine solves problems of this kind; the former result is gone then too.
 void SolveProblem(Problem& problem, bool relaxed);
 
-// The basis that the next LP solve starts from, and that reads of the basis give: the one set by the caller, otherwise
-// that of the last solve; empty if there is none.
-Basis const& CurrentBasis(Problem const& problem);
-
 }  // namespace vorqsolver

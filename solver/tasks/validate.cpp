@@ -56,8 +56,8 @@ void ValidateDiscrete(ProblemData const& data) {
     auto const owner = Called("Indicator", data.indicatorNames, k);
     RequireColumn(indicator.binCol, data, owner);
     if (data.columns.type[indicator.binCol] != 'B') Refuse(owner, ": its column is not binary");
-    if (indicator.type != 0) {
-      throw Failure(VORQ_INTERNAL, owner + ": no engine takes other indicators than plain implications, type 0");
+    if (indicator.type != 0 && indicator.type != 1) {
+      throw Failure(VORQ_INTERNAL, owner + ": no engine takes other indicators than plain implications, types 0 and 1");
     }
     RequireFinite(indicator.rhs, "its right side", owner);
     for (auto const& term : indicator.terms) {

@@ -183,6 +183,7 @@ TEST_F(DeletionTest, AConeKeepsThePlaceOfALostColumn) {
   int members[3];
   ASSERT_EQ(VORQ_GetCones(prob, 1, nullptr, nullptr, nullptr, nullptr, members, 3, nullptr), VORQ_OK);
   EXPECT_THAT(members, ElementsAre(0, -1, 2));
+  EXPECT_EQ(VORQ_Solve(prob), VORQ_INVALID);
   ASSERT_EQ(VORQ_DelCones(prob, 1, &begin), VORQ_OK);
   EXPECT_EQ(Attribute("Cones"), 0);
 }
@@ -205,6 +206,7 @@ TEST_F(DeletionTest, AnIndicatorKeepsThePlaceOfItsLostColumn) {
   EXPECT_EQ(binCol, -1);
   EXPECT_EQ(member, 0);
   EXPECT_EQ(coef, 2.0);
+  EXPECT_EQ(VORQ_Solve(prob), VORQ_INVALID);
 }
 
 TEST_F(DeletionTest, LmiTermsOfDeletedColumnsVanish) {

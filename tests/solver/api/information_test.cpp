@@ -28,10 +28,10 @@ TEST_F(InformationTest, UnknownNamesAreRefused) {
 
 TEST_F(InformationTest, WithoutASolutionThereAreNoValues) {
   double value = 0.0;
-  for (char const* const name : {"Value", "RedCost"}) {
+  for (char const* const name : {"Value", "RedCost", "PrimalRay"}) {
     EXPECT_EQ(VORQ_GetColInfo(prob, name, 1, nullptr, &value), VORQ_INVALID) << name;
   }
-  for (char const* const name : {"Slack", "Dual"}) {
+  for (char const* const name : {"Slack", "Dual", "DualFarkas"}) {
     EXPECT_EQ(VORQ_GetRowInfo(prob, name, 1, nullptr, &value), VORQ_INVALID) << name;
   }
 }

@@ -97,17 +97,14 @@ TEST_P(IndicatorTest, GreaterAndEqual) {
 
 INSTANTIATE_TEST_SUITE_P(Bounds, IndicatorTest, testing::Values(10.0, 1e6, kInf));
 
-TEST_F(DiscreteTest, OtherKindsOfIndicatorsAreRefused) {
-  int const x = Col(1.0);
-  int const b = Col(1.0, 0.0, 1.0, 'B');
-  int const type = 1;
-  int const value = 1;
-  int const begin = 0;
-  int const count = 1;
-  double const one = 1.0;
-  char const sense = 'L';
-  ASSERT_EQ(VORQ_AddIndicators(prob, 1, &type, &b, &value, &begin, &count, &x, &one, &sense, &one, nullptr), VORQ_OK);
-  EXPECT_EQ(VORQ_Solve(prob), VORQ_INTERNAL);
+// Both types state the implication.
+TEST_F(DiscreteTest, IndicatorsOfTypeOneAreImplicationsToo) {
+  Maximise();
+  int const b = Col(5.0, 0.0, 1.0, 'B');
+  int const x = Col(1.0, 0.0, 10.0);
+  Indicator(b, 1, {x}, {1.0}, 'L', 7.0, 1);
+  ASSERT_EQ(Solve(), kOptimal);
+  EXPECT_NEAR(Dbl("BestObj"), 12.0, 1e-6);
 }
 
 class SemicontinuousTest : public SolveTest, public testing::WithParamInterface<double> {};

@@ -266,4 +266,25 @@ TEST_F(LpTest, ZeroTimeLimitStops) {
   EXPECT_EQ(Solve(), kTimeLimit);
 }
 
+TEST_F(LpTest, EveryReadOfTheBasisGivesTheOneSetLast) {
+  Col(1.0, 0.0, 4.0);
+  Row({0}, {1.0}, 'G', 2.0);
+  EXPECT_EQ(Int("HasBasis"), 0);
+  int col = -1;
+  int row = -1;
+  EXPECT_EQ(VORQ_GetBasis(prob, &col, &row), VORQ_INVALID);
+  ASSERT_EQ(Solve(), kOptimal);
+  int const atUpper = 2;
+  int const basic = 1;
+  ASSERT_EQ(VORQ_SetBasis(prob, &atUpper, &basic), VORQ_OK);
+  EXPECT_EQ(Int("HasBasis"), 1);
+  ASSERT_EQ(VORQ_GetBasis(prob, &col, &row), VORQ_OK);
+  EXPECT_EQ(col, atUpper);
+  EXPECT_EQ(row, basic);
+  ASSERT_EQ(VORQ_GetColBasis(prob, 1, nullptr, &col), VORQ_OK);
+  ASSERT_EQ(VORQ_GetRowBasis(prob, 1, nullptr, &row), VORQ_OK);
+  EXPECT_EQ(col, atUpper);
+  EXPECT_EQ(row, basic);
+}
+
 }  // namespace

@@ -34,6 +34,10 @@ TEST_P(RayTest, FarkasRayProvesInfeasibility) {
   EXPECT_LE(ray[0] + ray[1], 1e-9);        // the combined row asks nothing positive of x
   EXPECT_LE(ray[0] + 2.0 * ray[1], 1e-9);  // and of y
   EXPECT_GT(4.0 * ray[0] + 3.0 * ray[1], 1e-9);
+  double info[2] = {};
+  ASSERT_EQ(VORQ_GetRowInfo(prob, "DualFarkas", 2, nullptr, info), VORQ_OK);
+  EXPECT_THAT(ray, testing::ElementsAreArray(info));
+  EXPECT_EQ(VORQ_GetColInfo(prob, "PrimalRay", 2, nullptr, info), VORQ_INVALID);
 }
 
 TEST_P(RayTest, PrimalRayKeepsRowsAndImproves) {
@@ -50,6 +54,10 @@ TEST_P(RayTest, PrimalRayKeepsRowsAndImproves) {
   EXPECT_LE(ray[0] - ray[1], 1e-8);
   EXPECT_LE(-2.0 * ray[0] + ray[1], 1e-8);
   EXPECT_GT(ray[0] + 2.0 * ray[1], 1e-6);
+  double info[2] = {};
+  ASSERT_EQ(VORQ_GetColInfo(prob, "PrimalRay", 2, nullptr, info), VORQ_OK);
+  EXPECT_THAT(ray, testing::ElementsAreArray(info));
+  EXPECT_EQ(VORQ_GetRowInfo(prob, "DualFarkas", 2, nullptr, info), VORQ_INVALID);
 }
 
 // Dual infeasible, and primal infeasible as well.

@@ -58,8 +58,7 @@ class SolveTest : public testing::Test {
               VORQ_OK);
   }
   void Indicator(int binary, int value, std::vector<int> const& cols, std::vector<double> const& coefs, char sense,
-                 double rhs) {
-    int const type = 0;
+                 double rhs, int type = 0) {
     int const begin = 0;
     int const count = static_cast<int>(cols.size());
     EXPECT_EQ(VORQ_AddIndicators(prob, 1, &type, &binary, &value, &begin, &count, cols.data(), coefs.data(), &sense,

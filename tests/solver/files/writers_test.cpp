@@ -7,6 +7,8 @@
 #include "solver/files/lp_writer.hpp"
 #include "solver/files/mps_reader.hpp"
 #include "solver/files/mps_writer.hpp"
+#include "solver/problem/deletion.hpp"
+#include "solver/problem/failure.hpp"
 #include "tests/solver/files/describe.hpp"
 
 namespace vorqsolver::test {
@@ -249,6 +251,16 @@ TEST(Writers, RefuseValuesThatAreNotNumbers) {
   data.columns.objective[0] = std::nan("");
   EXPECT_EQ(FailureOf([&] { WriteMps(data); }), "The problem has a value that is not a number");
   EXPECT_EQ(FailureOf([&] { WriteLp(data); }), "The problem has a value that is not a number");
+}
+
+TEST(Writers, RefuseAnIndicatorThatLostItsColumn) {
+  auto data = TwoColumns();
+  data.indicators.push_back({0, 0, 1, {{1, 1.0}}, 'L', 2.0});
+  data.indicatorNames.Set(0, "when");
+  int const first[] = {0};
+  DeleteColumns(data, first);
+  EXPECT_THROW(WriteMps(data), Failure);
+  EXPECT_THROW(WriteLp(data), Failure);
 }
 
 }  // namespace

@@ -9,7 +9,6 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
-#include <thread>
 
 #include "solver/parameters/parameter_set.hpp"
 #include "solver/problem/failure.hpp"
@@ -119,19 +118,6 @@ TEST_F(LogTest, NullSinkEndsTheCalls) {
   log.SetSink(nullptr, nullptr);
   log.Line("one");
   EXPECT_THAT(lines, IsEmpty());
-}
-
-TEST_F(LogTest, LinesOfSeveralThreadsDoNotMix) {
-  {
-    std::vector<std::jthread> threads;
-    for (int t = 0; t < 4; ++t) {
-      threads.emplace_back([this] {
-        for (int k = 0; k < 200; ++k) log.Line("a line");
-      });
-    }
-  }
-  EXPECT_EQ(lines.size(), 800u);
-  EXPECT_THAT(lines, testing::Each("a line"));
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
-// Solving as seen from outside: the log, interruption, threads, silence, and what is refused.
-#include <chrono>
+// Solving as seen from outside: the log, interruption, silence, and what is refused.
 #include <cmath>
-#include <thread>
 
 #include "tests/solver/engines/solve_fixture.hpp"
 
@@ -80,57 +78,10 @@ TEST_F(SolvingTest, NothingGoesToTheConsoleUnlessAsked) {
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
-TEST_F(SolvingTest, InterruptFromAnotherThreadStopsWithinTwoSeconds) {
-  AddMarketSplit(5, 40);
-  Set("TimeLimit", 60.0);
-  std::chrono::steady_clock::time_point asked;
-  std::jthread const other([&] {
-    std::this_thread::sleep_for(std::chrono::milliseconds(700));
-    asked = std::chrono::steady_clock::now();
-    EXPECT_EQ(VORQ_Interrupt(prob), VORQ_OK);
-  });
-  EXPECT_EQ(Solve(), kInterrupted);
-  EXPECT_LT(std::chrono::duration<double>(std::chrono::steady_clock::now() - asked).count(), 2.0);
-}
-
 TEST_F(SolvingTest, InterruptBeforeASolveDoesNotLinger) {
   AddSmallLp();
   ASSERT_EQ(VORQ_Interrupt(prob), VORQ_OK);
   EXPECT_EQ(Solve(), kOptimal);
-}
-
-TEST_F(SolvingTest, ProblemCannotChangeOrSolveAgainDuringASolve) {
-  AddMarketSplit(5, 40);
-  Set("TimeLimit", 1.0);
-  std::jthread const other([&] {
-    std::this_thread::sleep_for(std::chrono::milliseconds(300));
-    EXPECT_EQ(VORQ_Solve(prob), VORQ_INVALID);
-    EXPECT_EQ(VORQ_SetSlackBasis(prob), VORQ_INVALID);
-  });
-  EXPECT_EQ(Solve(), kTimeLimit);
-}
-
-TEST(TwoProblems, SolveInTwoThreads) {
-  class One : public SolveTest {
-   public:
-    void TestBody() override {
-      AddMarketSplit(2, 20);
-      Set("RelGap", 0.0);
-      EXPECT_EQ(Solve(), kOptimal);
-      objective = Dbl("BestObj");
-    }
-    double objective = -1.0;
-  };
-  One alone;
-  alone.TestBody();
-  One first;
-  One second;
-  {
-    std::jthread const a([&] { first.TestBody(); });
-    std::jthread const b([&] { second.TestBody(); });
-  }
-  EXPECT_NEAR(first.objective, alone.objective, 1e-6);
-  EXPECT_NEAR(second.objective, alone.objective, 1e-6);
 }
 
 TEST_F(SolvingTest, WhatNoEngineSolvesIsRefusedByName) {
