@@ -203,8 +203,7 @@ class VorqPsdExpr final : public Vorq::TermListHandle<VorqPsdExpr, Vorq::IPsdExp
   }
   void AddLinExpr(Vorq::IExpr* expr, double mult) override { Impl().linear.AddExpr(Vorq::Unwrap(expr), mult); }
   void AddPsdExpr(Vorq::IPsdExpr* other, double mult) override { Impl().AddPsdExpr(Vorq::Unwrap(other), mult); }
-  // Not implemented yet, and an expression has no status to say so: nothing is added.
-  void AddMExpression(Vorq::IMExpression*, double) override {}
+  void AddMExpression(Vorq::IMExpression* cell, double mult) override;  // defined with the handles on cells
   double Evaluate() override { return Impl().Evaluate(); }
   void Remove(Vorq::IVar* var) override { Impl().linear.Remove(Vorq::Unwrap(var)); }
   void Remove(Vorq::IPsdVar* var) override { Impl().Remove(Vorq::Unwrap(var)); }
