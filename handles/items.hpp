@@ -2,6 +2,7 @@
 #pragma once
 
 #include "handles/handle.hpp"
+#include "handles/nd_array.hpp"
 #include "handles/symmetric_matrices.hpp"
 #include "items/cones.hpp"
 #include "items/constraint.hpp"
@@ -102,7 +103,7 @@ class VorqPsdVar final : public Vorq::MatrixItemHandle<VorqPsdVar, Vorq::IPsdVar
   using MatrixItemHandle::MatrixItemHandle;
 
   int GetSize() override { return Impl().len; }
-  Vorq::INdArray<double, 2>* Get(char const*) override { return NotImplemented("Get"); }
+  Vorq::INdArray<double, 2>* Get(char const* name) override { return Vorq::WrapArray(Impl().Get(name)); }
   Vorq::IMPsdExpr<1>* Diagonal(int) override { return NotImplemented("Diagonal"); }
   Vorq::IMPsdExpr<2>* Pick(Vorq::IView*) override { return NotImplemented("Pick"); }
   Vorq::IMPsdExpr<1>* Pick(Vorq::INdArray<int, 1>*) override { return NotImplemented("Pick"); }

@@ -42,8 +42,12 @@ class VorqModelItems : public VorqModelSpecialConstraints {
   }
   Vorq::ISos* GetSos(int index) override { return Vorq::Wrap<Vorq::ISos>(Impl().Get<Vorq::Sos>(index)); }
   Vorq::ISosArray* GetSoss() override { return Vorq::Wrap<Vorq::ISosArray>(Impl().Collect<Vorq::Sos>()); }
-  Vorq::ISosBuilderArray* GetSosBuilders() override { return NotImplemented("GetSosBuilders"); }
-  Vorq::ISosBuilderArray* GetSosBuilders(Vorq::ISosArray*) override { return NotImplemented("GetSosBuilders"); }
+  Vorq::ISosBuilderArray* GetSosBuilders() override {
+    return Vorq::Wrap<Vorq::ISosBuilderArray>(Impl().GetSosBuilders({}));
+  }
+  Vorq::ISosBuilderArray* GetSosBuilders(Vorq::ISosArray* soss) override {
+    return Vorq::Wrap<Vorq::ISosBuilderArray>(Impl().GetSosBuilders(Vorq::Unwrap(soss)));
+  }
   Vorq::IGenConstr* GetGenConstr(int index) override {
     return Vorq::Wrap<Vorq::IGenConstr>(Impl().Get<Vorq::GenConstr>(index));
   }
@@ -56,23 +60,31 @@ class VorqModelItems : public VorqModelSpecialConstraints {
   void SetNames(Vorq::IGenConstrArray* constrs, char const* names, std::uint64_t length) override {
     Impl().SetNames(Vorq::Unwrap(constrs), names, length);
   }
-  Vorq::IGenConstrBuilderArray* GetGenConstrBuilders() override { return NotImplemented("GetGenConstrBuilders"); }
-  Vorq::IGenConstrBuilder* GetGenConstrBuilder(Vorq::IGenConstr*) override {
-    return NotImplemented("GetGenConstrBuilder");
+  Vorq::IGenConstrBuilderArray* GetGenConstrBuilders() override {
+    return Vorq::Wrap<Vorq::IGenConstrBuilderArray>(Impl().GetGenConstrBuilders());
+  }
+  Vorq::IGenConstrBuilder* GetGenConstrBuilder(Vorq::IGenConstr* constr) override {
+    return Vorq::Wrap<Vorq::IGenConstrBuilder>(Impl().GetGenConstrBuilder(Vorq::Unwrap(constr)));
   }
   Vorq::ICone* GetCone(int index) override { return Vorq::Wrap<Vorq::ICone>(Impl().Get<Vorq::Cone>(index)); }
   Vorq::IConeArray* GetCones() override { return Vorq::Wrap<Vorq::IConeArray>(Impl().Collect<Vorq::Cone>()); }
-  Vorq::IConeBuilderArray* GetConeBuilders() override { return NotImplemented("GetConeBuilders"); }
-  Vorq::IConeBuilderArray* GetConeBuilders(Vorq::IConeArray*) override { return NotImplemented("GetConeBuilders"); }
+  Vorq::IConeBuilderArray* GetConeBuilders() override {
+    return Vorq::Wrap<Vorq::IConeBuilderArray>(Impl().GetConeBuilders({}));
+  }
+  Vorq::IConeBuilderArray* GetConeBuilders(Vorq::IConeArray* cones) override {
+    return Vorq::Wrap<Vorq::IConeBuilderArray>(Impl().GetConeBuilders(Vorq::Unwrap(cones)));
+  }
   Vorq::IExpCone* GetExpCone(int index) override {
     return Vorq::Wrap<Vorq::IExpCone>(Impl().Get<Vorq::ExpCone>(index));
   }
   Vorq::IExpConeArray* GetExpCones() override {
     return Vorq::Wrap<Vorq::IExpConeArray>(Impl().Collect<Vorq::ExpCone>());
   }
-  Vorq::IExpConeBuilderArray* GetExpConeBuilders() override { return NotImplemented("GetExpConeBuilders"); }
-  Vorq::IExpConeBuilderArray* GetExpConeBuilders(Vorq::IExpConeArray*) override {
-    return NotImplemented("GetExpConeBuilders");
+  Vorq::IExpConeBuilderArray* GetExpConeBuilders() override {
+    return Vorq::Wrap<Vorq::IExpConeBuilderArray>(Impl().GetExpConeBuilders({}));
+  }
+  Vorq::IExpConeBuilderArray* GetExpConeBuilders(Vorq::IExpConeArray* cones) override {
+    return Vorq::Wrap<Vorq::IExpConeBuilderArray>(Impl().GetExpConeBuilders(Vorq::Unwrap(cones)));
   }
   Vorq::IAffineCone* GetAffineCone(int index) override {
     return Vorq::Wrap<Vorq::IAffineCone>(Impl().Get<Vorq::AffineCone>(index));
@@ -105,9 +117,15 @@ class VorqModelItems : public VorqModelSpecialConstraints {
   void SetNames(Vorq::IQConstrArray* constrs, char const* names, std::uint64_t length) override {
     Impl().SetNames(Vorq::Unwrap(constrs), names, length);
   }
-  Vorq::IQConstrBuilderArray* GetQConstrBuilders() override { return NotImplemented("GetQConstrBuilders"); }
-  Vorq::IQConstrBuilder* GetQConstrBuilder(Vorq::IQConstraint*) override { return NotImplemented("GetQConstrBuilder"); }
-  Vorq::IQuadExpr* GetQuadRow(Vorq::IQConstraint*) override { return NotImplemented("GetQuadRow"); }
+  Vorq::IQConstrBuilderArray* GetQConstrBuilders() override {
+    return Vorq::Wrap<Vorq::IQConstrBuilderArray>(Impl().GetQConstrBuilders());
+  }
+  Vorq::IQConstrBuilder* GetQConstrBuilder(Vorq::IQConstraint* constr) override {
+    return Vorq::Wrap<Vorq::IQConstrBuilder>(Impl().GetQConstrBuilder(Vorq::Unwrap(constr)));
+  }
+  Vorq::IQuadExpr* GetQuadRow(Vorq::IQConstraint* constr) override {
+    return Vorq::Wrap<Vorq::IQuadExpr>(Impl().GetQuadRow(Vorq::Unwrap(constr)));
+  }
   Vorq::IPsdVar* GetPsdVar(int index) override { return Vorq::Wrap<Vorq::IPsdVar>(Impl().Get<Vorq::PsdVar>(index)); }
   Vorq::IPsdVar* GetPsdVarByName(char const* name) override {
     return Vorq::Wrap<Vorq::IPsdVar>(Impl().GetByName<Vorq::PsdVar>(name));
@@ -128,11 +146,15 @@ class VorqModelItems : public VorqModelSpecialConstraints {
   void SetNames(Vorq::IPsdConstrArray* constrs, char const* names, std::uint64_t length) override {
     Impl().SetNames(Vorq::Unwrap(constrs), names, length);
   }
-  Vorq::IPsdConstrBuilder* GetPsdConstrBuilder(Vorq::IPsdConstraint*) override {
-    return NotImplemented("GetPsdConstrBuilder");
+  Vorq::IPsdConstrBuilder* GetPsdConstrBuilder(Vorq::IPsdConstraint* constr) override {
+    return Vorq::Wrap<Vorq::IPsdConstrBuilder>(Impl().GetPsdConstrBuilder(Vorq::Unwrap(constr)));
   }
-  Vorq::IPsdConstrBuilderArray* GetPsdConstrBuilders() override { return NotImplemented("GetPsdConstrBuilders"); }
-  Vorq::IPsdExpr* GetPsdRow(Vorq::IPsdConstraint*) override { return NotImplemented("GetPsdRow"); }
+  Vorq::IPsdConstrBuilderArray* GetPsdConstrBuilders() override {
+    return Vorq::Wrap<Vorq::IPsdConstrBuilderArray>(Impl().GetPsdConstrBuilders());
+  }
+  Vorq::IPsdExpr* GetPsdRow(Vorq::IPsdConstraint* constr) override {
+    return Vorq::Wrap<Vorq::IPsdExpr>(Impl().GetPsdRow(Vorq::Unwrap(constr)));
+  }
   Vorq::ILmiConstraint* GetLmiConstr(int index) override {
     return Vorq::Wrap<Vorq::ILmiConstraint>(Impl().Get<Vorq::LmiConstraint>(index));
   }
@@ -145,7 +167,9 @@ class VorqModelItems : public VorqModelSpecialConstraints {
   void SetNames(Vorq::ILmiConstrArray* constrs, char const* names, std::uint64_t length) override {
     Impl().SetNames(Vorq::Unwrap(constrs), names, length);
   }
-  Vorq::ILmiExpr* GetLmiRow(Vorq::ILmiConstraint*) override { return NotImplemented("GetLmiRow"); }
+  Vorq::ILmiExpr* GetLmiRow(Vorq::ILmiConstraint* constr) override {
+    return Vorq::Wrap<Vorq::ILmiExpr>(Impl().GetLmiRow(Vorq::Unwrap(constr)));
+  }
 
   // Coefficients and bulk loads.
   double GetCoeff(Vorq::IConstraint* constr, Vorq::IVar* var) override {
@@ -157,14 +181,24 @@ class VorqModelItems : public VorqModelSpecialConstraints {
   void SetCoeffs(Vorq::IConstrArray* constrs, Vorq::IVarArray* vars, double const* values, int len) override {
     Impl().SetCoeffs(Vorq::Unwrap(constrs), Vorq::Unwrap(vars), values, len);
   }
-  Vorq::ISymMatrix* GetPsdCoeff(Vorq::IPsdConstraint*, Vorq::IPsdVar*) override {
-    return NotImplemented("GetPsdCoeff");
+  Vorq::ISymMatrix* GetPsdCoeff(Vorq::IPsdConstraint* constr, Vorq::IPsdVar* var) override {
+    return Vorq::Wrap<Vorq::ISymMatrix>(Impl().GetPsdCoeff(Vorq::Unwrap(constr), Vorq::Unwrap(var)));
   }
-  void SetPsdCoeff(Vorq::IPsdConstraint*, Vorq::IPsdVar*, Vorq::ISymMatrix*) override { NotImplemented("SetPsdCoeff"); }
-  Vorq::ISymMatrix* GetLmiCoeff(Vorq::ILmiConstraint*, Vorq::IVar*) override { return NotImplemented("GetLmiCoeff"); }
-  void SetLmiCoeff(Vorq::ILmiConstraint*, Vorq::IVar*, Vorq::ISymMatrix*) override { NotImplemented("SetLmiCoeff"); }
-  Vorq::ISymMatrix* GetLmiRhs(Vorq::ILmiConstraint*) override { return NotImplemented("GetLmiRhs"); }
-  void SetLmiRhs(Vorq::ILmiConstraint*, Vorq::ISymMatrix*) override { NotImplemented("SetLmiRhs"); }
+  void SetPsdCoeff(Vorq::IPsdConstraint* constr, Vorq::IPsdVar* var, Vorq::ISymMatrix* mat) override {
+    Impl().SetPsdCoeff(Vorq::Unwrap(constr), Vorq::Unwrap(var), Vorq::Unwrap(mat));
+  }
+  Vorq::ISymMatrix* GetLmiCoeff(Vorq::ILmiConstraint* constr, Vorq::IVar* var) override {
+    return Vorq::Wrap<Vorq::ISymMatrix>(Impl().GetLmiCoeff(Vorq::Unwrap(constr), Vorq::Unwrap(var)));
+  }
+  void SetLmiCoeff(Vorq::ILmiConstraint* constr, Vorq::IVar* var, Vorq::ISymMatrix* mat) override {
+    Impl().SetLmiCoeff(Vorq::Unwrap(constr), Vorq::Unwrap(var), Vorq::Unwrap(mat));
+  }
+  Vorq::ISymMatrix* GetLmiRhs(Vorq::ILmiConstraint* constr) override {
+    return Vorq::Wrap<Vorq::ISymMatrix>(Impl().GetLmiRhs(Vorq::Unwrap(constr)));
+  }
+  void SetLmiRhs(Vorq::ILmiConstraint* constr, Vorq::ISymMatrix* mat) override {
+    Impl().SetLmiRhs(Vorq::Unwrap(constr), Vorq::Unwrap(mat));
+  }
   void GetCols(int* begin, int* count, int* index, double* value) override {
     Impl().GetCols(begin, count, index, value);
   }
@@ -173,13 +207,53 @@ class VorqModelItems : public VorqModelSpecialConstraints {
                   char const* types) override {
     Impl().LoadMatrix(nCols, nRows, objs, colBeg, colCnt, rows, coefs, lowers, uppers, lbs, ubs, types);
   }
-  void LoadQ(int, int const*, int const*, double const*) override { NotImplemented("LoadQ"); }
-  void LoadCone(int, int const*, int const*, int const*) override { NotImplemented("LoadCone"); }
-  void LoadExpCone(int, int const*, int const*) override { NotImplemented("LoadExpCone"); }
-  void LoadConeMatrix(int, int, int, int, int, int, int, int, int const*, int const*, int const*, int const*,
-                      double const*, double const*, int const*, int const*, int const*, double const*, char const*,
-                      double const*, double const*, double const*, double const*, int const*, int const*, double const*,
-                      int const*, int const*, int const*, int const*, int const*, int const*, int const*) override {
-    NotImplemented("LoadConeMatrix");
+  void LoadQ(int n, int const* rows, int const* cols, double const* values) override {
+    Impl().LoadQ(n, rows, cols, values);
+  }
+  void LoadCone(int n, int const* types, int const* dims, int const* indices) override {
+    Impl().LoadCone(n, types, dims, indices);
+  }
+  void LoadExpCone(int n, int const* types, int const* indices) override { Impl().LoadExpCone(n, types, indices); }
+  void LoadConeMatrix(int nCols, int nRows, int nCones, int nExpCones, int nPsdCols, int nSymMats, int nSymElems,
+                      int nQuad, int const* symDims, int const* symBeg, int const* symRows, int const* symCols,
+                      double const* symVals, double const* objs, int const* colBeg, int const* colCnt, int const* rows,
+                      double const* coefs, char const* types, double const* lbs, double const* ubs,
+                      double const* lowers, double const* uppers, int const* quadRows, int const* quadCols,
+                      double const* quadVals, int const* coneTypes, int const* coneDims, int const* coneCols,
+                      int const* expConeTypes, int const* expConeCols, int const* psdDims,
+                      int const* psdObjMats) override {
+    Impl().LoadConeMatrix({.nCols = nCols,
+                           .nRows = nRows,
+                           .nCones = nCones,
+                           .nExpCones = nExpCones,
+                           .nPsdCols = nPsdCols,
+                           .nSymMats = nSymMats,
+                           .nSymElems = nSymElems,
+                           .nQuad = nQuad,
+                           .symDims = symDims,
+                           .symBeg = symBeg,
+                           .symRows = symRows,
+                           .symCols = symCols,
+                           .symVals = symVals,
+                           .objs = objs,
+                           .colBeg = colBeg,
+                           .colCnt = colCnt,
+                           .rows = rows,
+                           .coefs = coefs,
+                           .types = types,
+                           .lbs = lbs,
+                           .ubs = ubs,
+                           .lowers = lowers,
+                           .uppers = uppers,
+                           .quadRows = quadRows,
+                           .quadCols = quadCols,
+                           .quadVals = quadVals,
+                           .coneTypes = coneTypes,
+                           .coneDims = coneDims,
+                           .coneCols = coneCols,
+                           .expConeTypes = expConeTypes,
+                           .expConeCols = expConeCols,
+                           .psdDims = psdDims,
+                           .psdObjMats = psdObjMats});
   }
 };

@@ -13,13 +13,15 @@ class VorqModelSolving : public VorqModelItems {
   void SetObjective(Vorq::IExpr* expr, int sense) override { Impl().SetObjective(Vorq::Unwrap(expr), sense); }
   void SetObjective(Vorq::IMExpression*, int) override { NotImplemented("SetObjective"); }
   Vorq::IExpr* GetObjective() override { return Vorq::Wrap<Vorq::IExpr>(Impl().GetObjective()); }
-  void SetQuadObjective(Vorq::IQuadExpr*, int) override { NotImplemented("SetQuadObjective"); }
+  void SetQuadObjective(Vorq::IQuadExpr* expr, int sense) override {
+    Impl().SetQuadObjective(Vorq::Unwrap(expr), sense);
+  }
   void SetQuadObjective(Vorq::IMQExpression*, int) override { NotImplemented("SetQuadObjective"); }
-  Vorq::IQuadExpr* GetQuadObjective() override { return NotImplemented("GetQuadObjective"); }
-  void DelQuadObj() override { NotImplemented("DelQuadObj"); }
-  void SetPsdObjective(Vorq::IPsdExpr*, int) override { NotImplemented("SetPsdObjective"); }
-  Vorq::IPsdExpr* GetPsdObjective() override { return NotImplemented("GetPsdObjective"); }
-  void DelPsdObj() override { NotImplemented("DelPsdObj"); }
+  Vorq::IQuadExpr* GetQuadObjective() override { return Vorq::Wrap<Vorq::IQuadExpr>(Impl().GetQuadObjective()); }
+  void DelQuadObj() override { Impl().DelQuadObj(); }
+  void SetPsdObjective(Vorq::IPsdExpr* expr, int sense) override { Impl().SetPsdObjective(Vorq::Unwrap(expr), sense); }
+  Vorq::IPsdExpr* GetPsdObjective() override { return Vorq::Wrap<Vorq::IPsdExpr>(Impl().GetPsdObjective()); }
+  void DelPsdObj() override { Impl().DelPsdObj(); }
 
   // Solving.
   void Solve() override { Impl().Solve(); }

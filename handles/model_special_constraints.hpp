@@ -9,26 +9,35 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
   using VorqModelBuilding::VorqModelBuilding;
 
   // SOS and indicator constraints.
-  Vorq::ISos* AddSos(Vorq::ISosBuilder*) override { return NotImplemented("AddSos"); }
-  Vorq::ISos* AddSos(Vorq::IVarArray*, double const*, int) override { return NotImplemented("AddSos"); }
-  Vorq::IGenConstr* AddGenConstrIndicator(Vorq::IGenConstrBuilder*, char const*) override {
-    return NotImplemented("AddGenConstrIndicator");
+  Vorq::ISos* AddSos(Vorq::ISosBuilder* builder) override {
+    return Vorq::Wrap<Vorq::ISos>(Impl().AddSos(Vorq::Unwrap(builder)));
   }
-  Vorq::IGenConstr* AddGenConstrIndicator(Vorq::IVar*, int, Vorq::IConstrBuilder*, int, char const*) override {
-    return NotImplemented("AddGenConstrIndicator");
+  Vorq::ISos* AddSos(Vorq::IVarArray* vars, double const* weights, int type) override {
+    return Vorq::Wrap<Vorq::ISos>(Impl().AddSos(Vorq::Unwrap(vars), weights, type));
   }
-  Vorq::IGenConstr* AddGenConstrIndicator(Vorq::IVar*, int, Vorq::IExpr*, char, double, int, char const*) override {
-    return NotImplemented("AddGenConstrIndicator");
+  Vorq::IGenConstr* AddGenConstrIndicator(Vorq::IGenConstrBuilder* builder, char const* name) override {
+    return Vorq::Wrap<Vorq::IGenConstr>(Impl().AddGenConstrIndicator(Vorq::Unwrap(builder), name));
+  }
+  Vorq::IGenConstr* AddGenConstrIndicator(Vorq::IVar* var, int val, Vorq::IConstrBuilder* builder, int type,
+                                          char const* name) override {
+    return Vorq::Wrap<Vorq::IGenConstr>(
+        Impl().AddGenConstrIndicator(Vorq::Unwrap(var), val, Vorq::Unwrap(builder), type, name));
+  }
+  Vorq::IGenConstr* AddGenConstrIndicator(Vorq::IVar* var, int val, Vorq::IExpr* expr, char sense, double rhs, int type,
+                                          char const* name) override {
+    return Vorq::Wrap<Vorq::IGenConstr>(
+        Impl().AddGenConstrIndicator(Vorq::Unwrap(var), val, Vorq::Unwrap(expr), sense, rhs, type, name));
   }
   Vorq::IGenConstr* AddGenConstrIndicator(Vorq::IVar*, int, Vorq::IMExpression*, char, double, int,
                                           char const*) override {
     return NotImplemented("AddGenConstrIndicator");
   }
-  Vorq::IGenConstrArray* AddGenConstrIndicators(Vorq::IGenConstrBuilderArray*, char const*) override {
-    return NotImplemented("AddGenConstrIndicators");
+  Vorq::IGenConstrArray* AddGenConstrIndicators(Vorq::IGenConstrBuilderArray* builders, char const* prefix) override {
+    return Vorq::Wrap<Vorq::IGenConstrArray>(Impl().AddGenConstrIndicators(Vorq::Unwrap(builders), prefix));
   }
-  Vorq::IGenConstrArray* AddGenConstrIndicators(Vorq::IGenConstrBuilderArray*, char const*, std::uint64_t) override {
-    return NotImplemented("AddGenConstrIndicators");
+  Vorq::IGenConstrArray* AddGenConstrIndicators(Vorq::IGenConstrBuilderArray* builders, char const* names,
+                                                std::uint64_t length) override {
+    return Vorq::Wrap<Vorq::IGenConstrArray>(Impl().AddGenConstrIndicators(Vorq::Unwrap(builders), names, length));
   }
   Vorq::IGenConstrArray* AddGenConstrIndicators(Vorq::IMVar<0>*, int, Vorq::IMConstrBuilder<0>*, int,
                                                 char const*) override {
@@ -48,14 +57,26 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
   }
 
   // Cones.
-  Vorq::ICone* AddCone(int, int, char const*, char const*) override { return NotImplemented("AddCone"); }
-  Vorq::ICone* AddCone(Vorq::IConeBuilder*) override { return NotImplemented("AddCone"); }
-  Vorq::ICone* AddCone(Vorq::IVarArray*, int) override { return NotImplemented("AddCone"); }
+  Vorq::ICone* AddCone(int dim, int type, char const* varTypes, char const* prefix) override {
+    return Vorq::Wrap<Vorq::ICone>(Impl().AddCone(dim, type, varTypes, prefix));
+  }
+  Vorq::ICone* AddCone(Vorq::IConeBuilder* builder) override {
+    return Vorq::Wrap<Vorq::ICone>(Impl().AddCone(Vorq::Unwrap(builder)));
+  }
+  Vorq::ICone* AddCone(Vorq::IVarArray* vars, int type) override {
+    return Vorq::Wrap<Vorq::ICone>(Impl().AddCone(Vorq::Unwrap(vars), type));
+  }
   Vorq::ICone* AddCone(Vorq::IMVar<1>*, int) override { return NotImplemented("AddCone"); }
   Vorq::IConeArray* AddCones(Vorq::IMVar<2>*, int) override { return NotImplemented("AddCones"); }
-  Vorq::IExpCone* AddExpCone(int, char const*, char const*) override { return NotImplemented("AddExpCone"); }
-  Vorq::IExpCone* AddExpCone(Vorq::IExpConeBuilder*) override { return NotImplemented("AddExpCone"); }
-  Vorq::IExpCone* AddExpCone(Vorq::IVarArray*, int) override { return NotImplemented("AddExpCone"); }
+  Vorq::IExpCone* AddExpCone(int type, char const* varTypes, char const* prefix) override {
+    return Vorq::Wrap<Vorq::IExpCone>(Impl().AddExpCone(type, varTypes, prefix));
+  }
+  Vorq::IExpCone* AddExpCone(Vorq::IExpConeBuilder* builder) override {
+    return Vorq::Wrap<Vorq::IExpCone>(Impl().AddExpCone(Vorq::Unwrap(builder)));
+  }
+  Vorq::IExpCone* AddExpCone(Vorq::IVarArray* vars, int type) override {
+    return Vorq::Wrap<Vorq::IExpCone>(Impl().AddExpCone(Vorq::Unwrap(vars), type));
+  }
   Vorq::IExpCone* AddExpCone(Vorq::IMVar<1>*, int) override { return NotImplemented("AddExpCone"); }
   Vorq::IExpConeArray* AddExpCones(Vorq::IMVar<2>*, int) override { return NotImplemented("AddExpCones"); }
   Vorq::IAffineCone* AddAffineCone(Vorq::IAffineConeBuilder*, char const*) override {
@@ -87,13 +108,15 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
   }
 
   // Quadratic constraints.
-  Vorq::IQConstraint* AddQConstr(Vorq::IQuadExpr*, char, double, char const*) override {
-    return NotImplemented("AddQConstr");
+  Vorq::IQConstraint* AddQConstr(Vorq::IQuadExpr* expr, char sense, double rhs, char const* name) override {
+    return Vorq::Wrap<Vorq::IQConstraint>(Impl().AddQConstr(Vorq::Unwrap(expr), sense, rhs, name));
   }
-  Vorq::IQConstraint* AddQConstr(Vorq::IQuadExpr*, char, Vorq::IQuadExpr*, char const*) override {
-    return NotImplemented("AddQConstr");
+  Vorq::IQConstraint* AddQConstr(Vorq::IQuadExpr* lhs, char sense, Vorq::IQuadExpr* rhs, char const* name) override {
+    return Vorq::Wrap<Vorq::IQConstraint>(Impl().AddQConstr(Vorq::Unwrap(lhs), sense, Vorq::Unwrap(rhs), name));
   }
-  Vorq::IQConstraint* AddQConstr(Vorq::IQConstrBuilder*, char const*) override { return NotImplemented("AddQConstr"); }
+  Vorq::IQConstraint* AddQConstr(Vorq::IQConstrBuilder* builder, char const* name) override {
+    return Vorq::Wrap<Vorq::IQConstraint>(Impl().AddQConstr(Vorq::Unwrap(builder), name));
+  }
   Vorq::IQConstraint* AddQConstr(Vorq::IMQExpression*, char, double, char const*) override {
     return NotImplemented("AddQConstr");
   }
@@ -123,22 +146,26 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
   }
 
   // Semidefinite variables and constraints.
-  Vorq::IPsdVar* AddPsdVar(int, char const*) override { return NotImplemented("AddPsdVar"); }
-  Vorq::IPsdVarArray* AddPsdVars(int, int const*, char const*) override { return NotImplemented("AddPsdVars"); }
-  Vorq::IPsdVarArray* AddPsdVars(int, int const*, char const*, std::uint64_t) override {
-    return NotImplemented("AddPsdVars");
+  Vorq::IPsdVar* AddPsdVar(int dim, char const* name) override {
+    return Vorq::Wrap<Vorq::IPsdVar>(Impl().AddPsdVar(dim, name));
   }
-  Vorq::IPsdConstraint* AddPsdConstr(Vorq::IPsdExpr*, char, double, char const*) override {
-    return NotImplemented("AddPsdConstr");
+  Vorq::IPsdVarArray* AddPsdVars(int count, int const* dims, char const* prefix) override {
+    return Vorq::Wrap<Vorq::IPsdVarArray>(Impl().AddPsdVars(count, dims, prefix));
   }
-  Vorq::IPsdConstraint* AddPsdConstr(Vorq::IPsdExpr*, char, Vorq::IPsdExpr*, char const*) override {
-    return NotImplemented("AddPsdConstr");
+  Vorq::IPsdVarArray* AddPsdVars(int count, int const* dims, char const* names, std::uint64_t length) override {
+    return Vorq::Wrap<Vorq::IPsdVarArray>(Impl().AddPsdVars(count, dims, names, length));
   }
-  Vorq::IPsdConstraint* AddPsdConstr(Vorq::IPsdExpr*, double, double, char const*) override {
-    return NotImplemented("AddPsdConstr");
+  Vorq::IPsdConstraint* AddPsdConstr(Vorq::IPsdExpr* expr, char sense, double rhs, char const* name) override {
+    return Vorq::Wrap<Vorq::IPsdConstraint>(Impl().AddPsdConstr(Vorq::Unwrap(expr), sense, rhs, name));
   }
-  Vorq::IPsdConstraint* AddPsdConstr(Vorq::IPsdConstrBuilder*, char const*) override {
-    return NotImplemented("AddPsdConstr");
+  Vorq::IPsdConstraint* AddPsdConstr(Vorq::IPsdExpr* lhs, char sense, Vorq::IPsdExpr* rhs, char const* name) override {
+    return Vorq::Wrap<Vorq::IPsdConstraint>(Impl().AddPsdConstr(Vorq::Unwrap(lhs), sense, Vorq::Unwrap(rhs), name));
+  }
+  Vorq::IPsdConstraint* AddPsdConstr(Vorq::IPsdExpr* expr, double lower, double upper, char const* name) override {
+    return Vorq::Wrap<Vorq::IPsdConstraint>(Impl().AddPsdConstr(Vorq::Unwrap(expr), lower, upper, name));
+  }
+  Vorq::IPsdConstraint* AddPsdConstr(Vorq::IPsdConstrBuilder* builder, char const* name) override {
+    return Vorq::Wrap<Vorq::IPsdConstraint>(Impl().AddPsdConstr(Vorq::Unwrap(builder), name));
   }
   Vorq::IMPsdConstr<0>* AddMPsdConstr(Vorq::IMPsdConstrBuilder<0>*, char const*) override {
     return NotImplemented("AddMPsdConstr");
@@ -164,21 +191,37 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
   Vorq::IMPsdConstr<3>* AddMPsdConstr(Vorq::IMPsdExpr<3>*, char, double, char const*) override {
     return NotImplemented("AddMPsdConstr");
   }
-  Vorq::ILmiConstraint* AddLmiConstr(Vorq::ILmiExpr*, char const*) override { return NotImplemented("AddLmiConstr"); }
+  Vorq::ILmiConstraint* AddLmiConstr(Vorq::ILmiExpr* expr, char const* name) override {
+    return Vorq::Wrap<Vorq::ILmiConstraint>(Impl().AddLmiConstr(Vorq::Unwrap(expr), name));
+  }
 
   // Symmetric matrices.
-  Vorq::ISymMatrix* AddSparseMat(int, int, int const*, int const*, double const*) override {
-    return NotImplemented("AddSparseMat");
+  Vorq::ISymMatrix* AddSparseMat(int dim, int nElems, int const* rows, int const* cols, double const* values) override {
+    return Vorq::Wrap<Vorq::ISymMatrix>(Impl().AddSparseMat(dim, nElems, rows, cols, values));
   }
-  Vorq::ISymMatrix* AddDenseMat(int, double const*, int) override { return NotImplemented("AddDenseMat"); }
-  Vorq::ISymMatrix* AddDenseMat(int, double) override { return NotImplemented("AddDenseMat"); }
-  Vorq::ISymMatrix* AddDiagMat(int, double const*, int) override { return NotImplemented("AddDiagMat"); }
-  Vorq::ISymMatrix* AddDiagMat(int, double) override { return NotImplemented("AddDiagMat"); }
-  Vorq::ISymMatrix* AddDiagMat(int, double const*, int, int) override { return NotImplemented("AddDiagMat"); }
-  Vorq::ISymMatrix* AddDiagMat(int, double, int) override { return NotImplemented("AddDiagMat"); }
-  Vorq::ISymMatrix* AddOnesMat(int) override { return NotImplemented("AddOnesMat"); }
-  Vorq::ISymMatrix* AddEyeMat(int) override { return NotImplemented("AddEyeMat"); }
-  Vorq::ISymMatrix* AddSymMat(Vorq::ISymMatExpr*) override { return NotImplemented("AddSymMat"); }
+  Vorq::ISymMatrix* AddDenseMat(int dim, double const* values, int length) override {
+    return Vorq::Wrap<Vorq::ISymMatrix>(Impl().AddDenseMat(dim, values, length));
+  }
+  Vorq::ISymMatrix* AddDenseMat(int dim, double value) override {
+    return Vorq::Wrap<Vorq::ISymMatrix>(Impl().AddDenseMat(dim, value));
+  }
+  Vorq::ISymMatrix* AddDiagMat(int dim, double const* values, int length) override {
+    return Vorq::Wrap<Vorq::ISymMatrix>(Impl().AddDiagMat(dim, values, length));
+  }
+  Vorq::ISymMatrix* AddDiagMat(int dim, double value) override {
+    return Vorq::Wrap<Vorq::ISymMatrix>(Impl().AddDiagMat(dim, value));
+  }
+  Vorq::ISymMatrix* AddDiagMat(int dim, double const* values, int length, int offset) override {
+    return Vorq::Wrap<Vorq::ISymMatrix>(Impl().AddDiagMat(dim, values, length, offset));
+  }
+  Vorq::ISymMatrix* AddDiagMat(int dim, double value, int offset) override {
+    return Vorq::Wrap<Vorq::ISymMatrix>(Impl().AddDiagMat(dim, value, offset));
+  }
+  Vorq::ISymMatrix* AddOnesMat(int dim) override { return Vorq::Wrap<Vorq::ISymMatrix>(Impl().AddDenseMat(dim, 1.0)); }
+  Vorq::ISymMatrix* AddEyeMat(int dim) override { return Vorq::Wrap<Vorq::ISymMatrix>(Impl().AddDiagMat(dim, 1.0)); }
+  Vorq::ISymMatrix* AddSymMat(Vorq::ISymMatExpr* expr) override {
+    return Vorq::Wrap<Vorq::ISymMatrix>(Impl().AddSymMat(Vorq::Unwrap(expr)));
+  }
   Vorq::ISymMatrix* GetSymMat(int index) override {
     return Vorq::Wrap<Vorq::ISymMatrix>(Impl().Get<Vorq::SymMatrix>(index));
   }

@@ -2,11 +2,14 @@
 #include "items/builders.hpp"
 
 namespace Vorq {
+
 void SosBuilder::Set(std::vector<Var> const& variables, double const* newWeights, int newType) {
   type = newType;
   MakeRoomForMore(variables.size(), vars, weights);
-  vars.insert(vars.end(), variables.begin(), variables.end());
-  weights.insert(weights.end(), newWeights, newWeights + variables.size());
+  for (std::size_t i = 0; i < variables.size(); ++i) {
+    vars.push_back(variables[i]);
+    weights.push_back(newWeights == nullptr ? static_cast<double>(vars.size()) : newWeights[i]);
+  }
 }
 
 void ConeBuilder::Set(std::vector<Var> const& variables, int newType) {

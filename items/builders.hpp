@@ -59,7 +59,7 @@ struct SosBuilder {
   std::vector<Var> vars;
   std::vector<double> weights;
 
-  // Appends to what a former Set left, which is meant.
+  // Appends to what a former Set left, which is meant. Null weights are 1, 2, 3 and so on, as in the solver library.
   void Set(std::vector<Var> const& variables, double const* newWeights, int newType);
 };
 

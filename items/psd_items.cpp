@@ -1,6 +1,8 @@
 // The operations of the semidefinite items.
 #include "items/psd_items.hpp"
 
+#include <algorithm>
+
 #include "items/sym_matrix.hpp"
 
 namespace Vorq {
@@ -15,6 +17,13 @@ constexpr InfoSetterTable kInfo{"Must specify information name of PSD constraint
 
 void PsdVar::GetInfo(char const* name, double* out, int size) {
   ReadMatrix(VORQ_GetPSDColInfo, "Fail to get informations of PSD variables", name, out, size);
+}
+
+NdArray<double, 2> PsdVar::Get(char const* name) {
+  auto const side = static_cast<std::uint64_t>(std::max(dim, 0));
+  auto matrix = NdArray<double, 2>::Filled(NDim<2>({side, side}), 0.0);
+  GetInfo(name, matrix.Store().Get(), len);
+  return matrix;
 }
 
 double PsdConstraint::Get(char const* name) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "items/item.hpp"
+#include "ndarray/nd_array_numbers.hpp"
 
 namespace Vorq {
 
@@ -14,6 +15,9 @@ class PsdVar : public MatrixItem<kPsdVarKind> {
 
   // Writes `len` values to `out`, which has room for `size`.
   void GetInfo(char const* name, double* out, int size);
+
+  // The same as a matrix; zeros after a failure.
+  NdArray<double, 2> Get(char const* name);
 };
 
 class PsdConstraint : public NamedItem<kPsdConstraintKind> {

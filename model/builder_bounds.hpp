@@ -3,6 +3,7 @@
 
 #include "frame/vorq_solver.h"
 #include "items/builders.hpp"
+#include "model/model.hpp"
 
 namespace Vorq {
 
@@ -27,6 +28,16 @@ void FoldBounds(Builder& builder, Expr& linear, double lower, double upper) {
     linear.constant = -upper;
     builder.range = upper - lower;
   }
+}
+
+template <class Builder, class Item>
+bool Model::AddBounds(Builder& builder, Expr& linear, Item& constr) {
+  double const lower = constr.Get("LB");
+  if (constr.status.Failed()) return HandOn(constr.status);
+  double const upper = constr.Get("UB");
+  if (constr.status.Failed()) return HandOn(constr.status);
+  FoldBounds(builder, linear, lower, upper);
+  return true;
 }
 
 }  // namespace Vorq

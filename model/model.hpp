@@ -16,6 +16,7 @@
 #include <atomic>
 #include <cstddef>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -23,6 +24,8 @@
 
 #include "frame/status.hpp"
 #include "items/item_arrays.hpp"
+#include "items/lmi_expr.hpp"
+#include "model/cone_problem.hpp"
 #include "model/cut_kinds.hpp"
 #include "model/envr.hpp"
 #include "model/file_formats.hpp"
@@ -49,6 +52,7 @@ struct NamedRead {
 };
 
 struct NameRule;
+struct VarListReader;
 
 class Model {
  public:
@@ -137,7 +141,78 @@ class Model {
   void AddCuts(CutKind const& kind, ConstrBuilderArray& builders, char const* prefix);
   void AddCuts(CutKind const& kind, ConstrBuilderArray& builders, char const* names, std::size_t length);
 
-  // ---- Coefficients and bulk loads (model_coefficients.cpp)
+  // ---- SOS (model_sos.cpp), indicator constraints (model_indicators.cpp), cones (model_cones.cpp)
+
+  Sos AddSos(SosBuilder const& builder);
+  // Null weights leave the order of the variables to count.
+  Sos AddSos(VarArray const& vars, double const* weights, int type);
+  // An empty array stands for all live items.
+  SosBuilderArray GetSosBuilders(SosArray const& soss);
+
+  GenConstr AddGenConstrIndicator(GenConstrBuilder& builder, char const* name);
+  GenConstr AddGenConstrIndicator(Var const& var, int value, ConstrBuilder& builder, int type, char const* name);
+  GenConstr AddGenConstrIndicator(Var const& var, int value, Expr& expr, char sense, double rhs, int type,
+                                  char const* name);
+  GenConstrArray AddGenConstrIndicators(GenConstrBuilderArray& builders, char const* prefix);
+  GenConstrArray AddGenConstrIndicators(GenConstrBuilderArray& builders, char const* names, std::size_t length);
+  GenConstrBuilder GetGenConstrBuilder(GenConstr const& constr);
+  GenConstrBuilderArray GetGenConstrBuilders();
+
+  // The forms with `types` make the variables; null types make continuous ones.
+  Cone AddCone(int dim, int type, char const* types, char const* prefix);
+  Cone AddCone(ConeBuilder const& builder);
+  Cone AddCone(VarArray const& vars, int type);
+  ConeBuilderArray GetConeBuilders(ConeArray const& cones);
+  ExpCone AddExpCone(int type, char const* types, char const* prefix);
+  ExpCone AddExpCone(ExpConeBuilder const& builder);
+  ExpCone AddExpCone(VarArray const& vars, int type);
+  ExpConeBuilderArray GetExpConeBuilders(ExpConeArray const& cones);
+
+  // ---- Quadratic constraints (model_quadratic_constraints.cpp)
+
+  QConstraint AddQConstr(QuadExpr& expr, char sense, double rhs, char const* name);
+  QConstraint AddQConstr(QuadExpr const& lhs, char sense, QuadExpr const& rhs, char const* name);
+  QConstraint AddQConstr(QConstrBuilder& builder, char const* name);
+  QuadExpr GetQuadRow(QConstraint const& constr);
+  QConstrBuilder GetQConstrBuilder(QConstraint const& constr);
+  QConstrBuilderArray GetQConstrBuilders();
+
+  // ---- Symmetric matrices (model_symmetric_matrices.cpp): each call makes a new one
+
+  SymMatrix AddSparseMat(int dim, int count, int const* rows, int const* cols, double const* values);
+  // The lower triangle by columns, as far as the values reach.
+  SymMatrix AddDenseMat(int dim, double const* values, int length);
+  SymMatrix AddDenseMat(int dim, double value);
+  SymMatrix AddDiagMat(int dim, double const* values, int length);
+  SymMatrix AddDiagMat(int dim, double value);
+  SymMatrix AddDiagMat(int dim, double const* values, int length, int offset);
+  SymMatrix AddDiagMat(int dim, double value, int offset);
+  SymMatrix AddSymMat(SymMatExpr const& expr);
+
+  // ---- PSD variables and constraints (model_psd.cpp), LMI constraints (model_lmi.cpp)
+
+  PsdVar AddPsdVar(int dim, char const* name);
+  PsdVarArray AddPsdVars(int count, int const* dims, char const* prefix);
+  PsdVarArray AddPsdVars(int count, int const* dims, char const* names, std::size_t length);
+
+  PsdConstraint AddPsdConstr(PsdExpr& expr, char sense, double rhs, char const* name);
+  PsdConstraint AddPsdConstr(PsdExpr const& lhs, char sense, PsdExpr const& rhs, char const* name);
+  PsdConstraint AddPsdConstr(PsdExpr& expr, double lower, double upper, char const* name);
+  PsdConstraint AddPsdConstr(PsdConstrBuilder& builder, char const* name);
+  PsdExpr GetPsdRow(PsdConstraint const& constr);
+  PsdConstrBuilder GetPsdConstrBuilder(PsdConstraint& constr);
+  PsdConstrBuilderArray GetPsdConstrBuilders();
+  SymMatrix GetPsdCoeff(PsdConstraint const& constr, PsdVar const& var);
+  void SetPsdCoeff(PsdConstraint const& constr, PsdVar const& var, SymMatrix const& mat);
+
+  LmiConstraint AddLmiConstr(LmiExpr& expr, char const* name);
+  LmiExpr GetLmiRow(LmiConstraint const& constr);
+  SymMatrix GetLmiCoeff(LmiConstraint const& constr, Var const& var);
+  void SetLmiCoeff(LmiConstraint const& constr, Var const& var, SymMatrix const& mat);
+  SymMatrix GetLmiRhs(LmiConstraint const& constr);
+  void SetLmiRhs(LmiConstraint const& constr, SymMatrix const& mat);
+
+  // ---- Coefficients (model_coefficients.cpp), bulk loads (model_bulk_loads.cpp)
 
   double GetCoeff(Constraint const& constr, Var const& var);
   void SetCoeff(Constraint const& constr, Var const& var, double value);
@@ -146,8 +221,13 @@ class Model {
   void LoadMatrix(int nCols, int nRows, double const* objs, int const* colBeg, int const* colCnt, int const* rows,
                   double const* coefs, double const* lowers, double const* uppers, double const* lbs, double const* ubs,
                   char const* types);
+  // The pieces make no items; null arrays that are needed do nothing.
+  void LoadQ(int count, int const* rows, int const* cols, double const* values);
+  void LoadCone(int count, int const* types, int const* dims, int const* cols);
+  void LoadExpCone(int count, int const* types, int const* cols);
+  void LoadConeMatrix(ConeProblem const& problem);
 
-  // ---- Objective (model_objective.cpp)
+  // ---- Objective (model_objective.cpp), its quadratic and PSD parts (model_quadratic_objective.cpp, model_psd.cpp)
 
   void SetObjSense(int sense);
   void SetObjConst(double constant);
@@ -155,6 +235,12 @@ class Model {
   void SetObjective(Expr& expr, int sense);
   void SetObjective(Var const& var, int sense);
   Expr GetObjective();
+  void SetQuadObjective(QuadExpr& expr, int sense);
+  QuadExpr GetQuadObjective();
+  void DelQuadObj();
+  void SetPsdObjective(PsdExpr& expr, int sense);
+  PsdExpr GetPsdObjective();
+  void DelPsdObj();
 
   // ---- Solving (model_solving.cpp), solutions (model_solutions.cpp), relaxation and MIP starts (files of that name)
 
@@ -230,7 +316,9 @@ class Model {
  private:
   using SparseGetter = int (*)(VORQ_Prob* prob, int count, int const* indices, int* begin, int* counts, int* index,
                                double* value, int capacity, int* required);
+  struct TermBatch;
   struct RowBatch;
+  struct IndicatorLines;
   class SolveScope;
 
   VORQ_Prob* Prob() const { return core_->prob->prob; }
@@ -263,15 +351,17 @@ class Model {
     if (!Record(code, text)) return Invalid<Item>();
     return Append<Item>(std::move(name), dimension...);
   }
-  template <class Item>
-  std::vector<Item> AddedAll(int code, char const* text, std::vector<char const*> const& names) {
+  // `dimensions` have one entry for each name.
+  template <class Item, class... Dimensions>
+  std::vector<Item> AddedAll(int code, char const* text, std::vector<char const*> const& names,
+                             Dimensions const*... dimensions) {
     std::vector<Item> added;
     if (!Record(code, text)) return added;
     std::vector<Item>& items = core_->Table<Item>().items;
     std::size_t const needed = items.size() + names.size();
     if (needed > items.capacity()) items.reserve(std::max(needed, 2 * items.capacity()));
     added.reserve(names.size());
-    for (char const* name : names) added.push_back(Append<Item>(name));
+    for (std::size_t i = 0; i < names.size(); ++i) added.push_back(Append<Item>(names[i], dimensions[i]...));
     return added;
   }
   // False, with the failure recorded, for a buffer that is too short.
@@ -286,6 +376,11 @@ class Model {
   // The same into `indices_`, for calls with one expression; the result is the number of terms.
   template <class Terms>
   int Compact(Terms& terms, int size);
+  // The same to the end of a batch, with the coefficients.
+  template <class Terms>
+  void Flatten(Terms& terms, int size, TermBatch& batch);
+  // The columns of the variables; false, with the failure recorded, at one that is not live.
+  bool LiveColumns(VarArray const& vars, std::vector<int>& cols);
 
   // ---- Reading back
 
@@ -298,11 +393,25 @@ class Model {
   // Reads `count` rows or columns; null `indices` means all in order.
   bool ReadLines(SparseGetter get, int count, int const* indices, char const* sizeFailed, char const* dataFailed,
                  SparseLines& lines);
-  // Adds the elements of one line to an expression or a column, up to an index that this model does not know.
+  // Adds terms to an expression or a column, up to an index that this model does not know.
+  template <class Item, class Terms>
+  void AddTerms(std::span<int const> indices, std::span<double const> coeffs, Terms& terms);
+  // The same with the elements of one line.
   template <class Item, class Terms>
   void AddLine(SparseLines const& lines, std::size_t line, Terms& terms);
+  // Builders of constraints that are lists of variables; an empty array stands for all live items.
+  template <class Builder, class Item>
+  std::vector<Builder> GetVarListBuilders(VarListReader const& reader, std::vector<Item> const& items);
+  // Completes the builder of a row whose terms are in place, `linear` being the part with the constant. A failure of
+  // the item becomes the model's.
+  template <class Builder, class Item>
+  bool AddBounds(Builder& builder, Expr& linear, Item& constr);
 
   // ---- Calls on live items only
+
+  // One builder for each live item, in order, until a lookup fails or fill(item, builder) gives false.
+  template <class Item, class Builder, class Fill>
+  std::vector<Builder> BuildersOfLive(Fill fill);
 
   template <class Item>
   static std::vector<int> LiveIndices(std::vector<Item> const& items);
@@ -329,7 +438,25 @@ class Model {
   void TellColumnCount();
   Constraint AddRow(Expr& expr, int sense, double bound, double upper, std::string name);
   int FlattenBuilders(ConstrBuilderArray& builders, RowBatch& batch);
-  bool AddBounds(ConstrBuilder& builder, Constraint& constr);
+  PsdConstraint AddPsdRow(PsdExpr& expr, int sense, double bound, double upper, std::string name);
+  // Makes a matrix of each coefficient; false at one that fails, those before it staying.
+  bool AddMatrices(std::vector<SymMatExpr> const& coeffs, std::vector<int>& matrices, int* dim = nullptr);
+  template <class Reader>
+  SymMatrix GetMatrix(Reader read, char const* failed);
+  // Adds the term of an item and a matrix, both found by index. False after a failure.
+  template <class Item, class Expression>
+  bool AddMatrixTerm(int item, int matrix, Expression& expr);
+  bool CheckMatrix(SymMatrix const& mat);
+  bool CheckPsdTerms(PsdExpr const& expr);
+  bool CheckLmiConstraint(LmiConstraint const& constr);
+  // Checks a matrix that is to become a coefficient of an LMI constraint, or its constant.
+  bool CheckLmiMatrix(LmiConstraint const& constr, SymMatrix const& mat);
+  double ReadQuadRow(QConstraint const& constr, QConstrBuilder& builder);
+  void AddQuadraticTerms(std::span<int const> rows, std::span<int const> cols, std::span<double const> coeffs,
+                         QuadExpr& expr);
+  bool ReadIndicators(int count, int const* indices, char const* sizeFailed, char const* dataFailed,
+                      IndicatorLines& lines);
+  bool MakeBuilder(IndicatorLines const& lines, std::size_t line, GenConstrBuilder& builder);
   bool ResolveName(char const* name, NameRule const& rule, std::string& canonical);
   // A number by its name, `otherwise` on failure.
   template <class T>

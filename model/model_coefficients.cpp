@@ -1,4 +1,4 @@
-// Single coefficients, the whole matrix, and loading one.
+// Single coefficients of linear constraints, and the whole matrix.
 #include "model/model.hpp"
 
 namespace Vorq {
@@ -39,14 +39,6 @@ void Model::GetCols(int* begin, int* count, int* index, double* value) {
   if (status.Failed()) return;
   Record(VORQ_GetCols(Prob(), cols, nullptr, begin, count, index, value, elements, nullptr),
          "Fail to get coefficient matrix");
-}
-
-void Model::LoadMatrix(int nCols, int nRows, double const* objs, int const* colBeg, int const* colCnt, int const* rows,
-                       double const* coefs, double const* lowers, double const* uppers, double const* lbs,
-                       double const* ubs, char const* types) {
-  int const code = VORQ_LoadProb(Prob(), nCols, nRows, VORQ_MINIMIZE, 0.0, objs, colBeg, colCnt, rows, coefs, types,
-                                 lbs, ubs, nullptr, lowers, uppers, nullptr, nullptr);
-  if (Record(code, "Fail to load matrix")) ReloadItems();
 }
 
 }  // namespace Vorq

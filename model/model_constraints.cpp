@@ -3,6 +3,7 @@
 
 #include "items/normalize_name.hpp"
 #include "model/builder_bounds.hpp"
+#include "model/model_live_items.hpp"
 #include "model/model_terms.hpp"
 #include "model/names.hpp"
 #include "model/row_batch.hpp"
@@ -89,19 +90,13 @@ ConstrArray Model::AddConstrs(int count, double const* lowers, double const* upp
 int Model::FlattenBuilders(ConstrBuilderArray& builders, RowBatch& batch) {
   std::size_t terms = 0;
   for (ConstrBuilder const& builder : builders) terms += builder.expr.Size();
-  batch.begins.reserve(builders.size());
-  batch.counts.reserve(builders.size());
-  batch.indices.reserve(terms);
-  batch.coeffs.reserve(terms);
+  batch.Reserve(builders.size(), terms);
   batch.senses.reserve(builders.size());
   batch.lowers.reserve(builders.size());
   batch.uppers.reserve(builders.size());
   for (ConstrBuilder& builder : builders) {
     Expr& expr = builder.expr;
-    batch.begins.push_back(static_cast<int>(batch.indices.size()));
-    Compact(expr, Count<Var>(), batch.indices);
-    batch.coeffs.insert(batch.coeffs.end(), expr.coeffs.begin(), expr.coeffs.end());
-    batch.counts.push_back(static_cast<int>(expr.Size()));
+    Flatten(expr, Count<Var>(), batch);
     batch.senses.push_back(builder.sense);
     if (!IsPlainSense(builder.sense) && builder.sense != 'N' && builder.sense != 'R') return kInvalid;
     batch.lowers.push_back(builder.sense == 'N' ? -kInfinity : -expr.constant);
@@ -156,38 +151,20 @@ Expr Model::GetRow(Constraint const& constr) {
   return row;
 }
 
-// Completes a builder that holds the row's terms. A failure of the item becomes the model's.
-bool Model::AddBounds(ConstrBuilder& builder, Constraint& constr) {
-  double const lower = constr.Get("LB");
-  if (constr.status.Failed()) return HandOn(constr.status);
-  double const upper = constr.Get("UB");
-  if (constr.status.Failed()) return HandOn(constr.status);
-  FoldBounds(builder, builder.expr, lower, upper);
-  return true;
-}
-
 ConstrBuilder Model::GetConstrBuilder(Constraint& constr) {
   ConstrBuilder builder;
   builder.expr = GetRow(constr);
-  if (!status.Failed()) AddBounds(builder, constr);
+  if (!status.Failed()) AddBounds(builder, builder.expr, constr);
   return builder;
 }
 
 ConstrBuilderArray Model::GetConstrBuilders() {
-  ConstrBuilderArray builders;
-  int const count = Count<Constraint>();
   SparseLines lines;
-  if (!ReadLines(VORQ_GetRows, count, nullptr, kRowSizeFailed, kRowDataFailed, lines)) return builders;
-  for (int i = 0; i < count; ++i) {
-    Constraint constr = Get<Constraint>(i);
-    if (status.Failed()) return builders;
-    if (!constr.IsLive()) continue;
-    ConstrBuilder builder;
-    AddLine<Var>(lines, static_cast<std::size_t>(i), builder.expr);
-    if (status.Failed() || !AddBounds(builder, constr)) return builders;
-    builders.push_back(std::move(builder));
-  }
-  return builders;
+  if (!ReadLines(VORQ_GetRows, Count<Constraint>(), nullptr, kRowSizeFailed, kRowDataFailed, lines)) return {};
+  return BuildersOfLive<Constraint, ConstrBuilder>([&](Constraint& constr, ConstrBuilder& builder) {
+    AddLine<Var>(lines, static_cast<std::size_t>(constr.Idx()), builder.expr);
+    return !status.Failed() && AddBounds(builder, builder.expr, constr);
+  });
 }
 
 }  // namespace Vorq

@@ -66,6 +66,15 @@ void Model::SetNames(std::vector<Item> const& items, char const* names, std::siz
   for (std::size_t i = 0; i < items.size(); ++i) items[i].Record().name = NormalizeName(split[i]);
 }
 
+bool Model::LiveColumns(VarArray const& vars, std::vector<int>& cols) {
+  cols.reserve(vars.size());
+  for (Var const& var : vars) {
+    if (!var.IsLive()) return Refuse("Invalid variable");
+    cols.push_back(var.Idx());
+  }
+  return true;
+}
+
 // What each kind has.
 #define VORQ_KIND(Item)                \
   template Item Model::Get<Item>(int); \

@@ -1,9 +1,23 @@
-// Templates of Model for calls that pass over items that are not live: outputs are without gaps.
+// Templates of Model for operations that pass over items that are not live: outputs are without gaps.
 #pragma once
 
 #include "model/model.hpp"
 
 namespace Vorq {
+
+template <class Item, class Builder, class Fill>
+std::vector<Builder> Model::BuildersOfLive(Fill fill) {
+  std::vector<Builder> builders;
+  for (int i = 0; i < Count<Item>(); ++i) {
+    Item item = Get<Item>(i);
+    if (status.Failed()) return builders;
+    if (!item.IsLive()) continue;
+    Builder builder;
+    if (!fill(item, builder)) return builders;
+    builders.push_back(std::move(builder));
+  }
+  return builders;
+}
 
 template <class Item>
 std::vector<int> Model::LiveIndices(std::vector<Item> const& items) {

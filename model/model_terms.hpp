@@ -1,6 +1,8 @@
 // Templates of Model that turn terms into index lists and back, included by the topics that add or read lines.
 #pragma once
 
+#include <span>
+
 #include "model/model.hpp"
 
 namespace Vorq {
@@ -37,13 +39,19 @@ int Model::Compact(Terms& terms, int size) {
 }
 
 template <class Item, class Terms>
-void Model::AddLine(SparseLines const& lines, std::size_t line, Terms& terms) {
-  for (int k = lines.begin[line]; k < lines.begin[line] + lines.count[line]; ++k) {
-    auto const position = static_cast<std::size_t>(k);
-    Item const item = Get<Item>(lines.index[position]);
+void Model::AddTerms(std::span<int const> indices, std::span<double const> coeffs, Terms& terms) {
+  for (std::size_t k = 0; k < indices.size(); ++k) {
+    Item const item = Get<Item>(indices[k]);
     if (status.Failed()) return;
-    terms.AddTerm(item, lines.value[position]);
+    terms.AddTerm(item, coeffs[k]);
   }
+}
+
+template <class Item, class Terms>
+void Model::AddLine(SparseLines const& lines, std::size_t line, Terms& terms) {
+  auto const begin = static_cast<std::size_t>(lines.begin[line]);
+  auto const count = static_cast<std::size_t>(lines.count[line]);
+  AddTerms<Item>(std::span(lines.index).subspan(begin, count), std::span(lines.value).subspan(begin, count), terms);
 }
 
 }  // namespace Vorq

@@ -2,6 +2,7 @@
 #include "items/normalize_name.hpp"
 #include "model/model_terms.hpp"
 #include "model/names.hpp"
+#include "model/row_batch.hpp"
 
 namespace Vorq {
 namespace {
@@ -92,20 +93,11 @@ VarArray Model::AddVars(int count, double const* lbs, double const* ubs, double 
 
   std::size_t terms = 0;
   for (Column const& column : columns) terms += column.Size();
-  std::vector<int> begins, counts, rows;
-  std::vector<double> coeffs;
-  begins.reserve(used);
-  counts.reserve(used);
-  rows.reserve(terms);
-  coeffs.reserve(terms);
-  for (std::size_t i = 0; i < used; ++i) {
-    begins.push_back(static_cast<int>(rows.size()));
-    Compact(columns[i], Count<Constraint>(), rows);
-    coeffs.insert(coeffs.end(), columns[i].coeffs.begin(), columns[i].coeffs.end());
-    counts.push_back(static_cast<int>(columns[i].Size()));
-  }
-  int const code = VORQ_AddCols(Prob(), count, objs, begins.data(), counts.data(), rows.data(), coeffs.data(), types,
-                                lbs, ubs, split.data());
+  TermBatch batch;
+  batch.Reserve(used, terms);
+  for (std::size_t i = 0; i < used; ++i) Flatten(columns[i], Count<Constraint>(), batch);
+  int const code = VORQ_AddCols(Prob(), count, objs, batch.begins.data(), batch.counts.data(), batch.indices.data(),
+                                batch.coeffs.data(), types, lbs, ubs, split.data());
   return AddedAll<Var>(code, kAddVarsFailed, split);
 }
 

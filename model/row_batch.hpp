@@ -8,11 +8,22 @@
 
 namespace Vorq {
 
-struct Model::RowBatch {
+// The terms of many lines behind each other.
+struct Model::TermBatch {
   std::vector<int> begins;
   std::vector<int> counts;
   std::vector<int> indices;
   std::vector<double> coeffs;
+
+  void Reserve(std::size_t lines, std::size_t terms) {
+    begins.reserve(lines);
+    counts.reserve(lines);
+    indices.reserve(terms);
+    coeffs.reserve(terms);
+  }
+};
+
+struct Model::RowBatch : TermBatch {
   std::string senses;
   std::vector<double> lowers;
   std::vector<double> uppers;
@@ -25,5 +36,13 @@ struct Model::RowBatch {
                senses.data(), lowers.data(), uppers.data(), names.data());
   }
 };
+
+template <class Terms>
+void Model::Flatten(Terms& terms, int size, TermBatch& batch) {
+  batch.begins.push_back(static_cast<int>(batch.indices.size()));
+  Compact(terms, size, batch.indices);
+  batch.coeffs.insert(batch.coeffs.end(), terms.coeffs.begin(), terms.coeffs.end());
+  batch.counts.push_back(static_cast<int>(terms.Size()));
+}
 
 }  // namespace Vorq

@@ -31,4 +31,14 @@ TEST(Documentation, SolvingTourPrintsValueAndDuals) {
   EXPECT_THAT(result.output, HasSubstr("cost 420, dual 5, reduced cost -2\n"));
 }
 
+TEST(Documentation, ConicTourSolvesWhatCanBeSolved) {
+  ProgramResult const result = RunExample("conic_tour");
+  EXPECT_EQ(result.exitCode, 0) << result.errors;
+  EXPECT_THAT(result.output, HasSubstr("profit 16, first plant 4, second plant idle: 1\n"));
+  EXPECT_THAT(result.output, HasSubstr("risk: 3 products, constant -3, sense L\n"));
+  EXPECT_THAT(result.output, HasSubstr("(INTERNAL) Fail to solve problem\n"));
+  EXPECT_THAT(result.output, HasSubstr("cone of type 2 and size 3, led by v_3\n"));
+  EXPECT_THAT(result.output, HasSubstr("6 matrices in the model, the inequality has dimension 2\n"));
+}
+
 }  // namespace

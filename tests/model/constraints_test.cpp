@@ -181,7 +181,7 @@ TEST_F(ConstraintsTest, RefusedBatchAddsNothing) {
   double_.FailNext("VORQ_AddRows", VORQ_INTERNAL);
   EXPECT_EQ(Own(model_->AddConstrs(1, bounds, bounds, "c"))->Size(), 0);
   EXPECT_FAILURE(model_, 5, "(INTERNAL) Fail to add constraints");
-  EXPECT_EQ(Own(model_->GetConstrs())->Size(), 0);
+  EXPECT_EQ(Own(model_->GetConstr(0))->GetIdx(), -2);
 }
 
 // ---- Batches from builders
