@@ -23,7 +23,7 @@ void BlockInterrupts() {
 }
 
 InterruptWatcher::InterruptWatcher(Vorq::IModel& model)
-    : thread_([&model](std::stop_token stop) {
+    : thread_([&model](std::stop_token const& stop) {
         sigset_t const signals = WatchedSignals();
         timespec const pause = {.tv_sec = 0, .tv_nsec = 50'000'000};
         while (!stop.stop_requested()) {

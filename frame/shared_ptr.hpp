@@ -30,7 +30,7 @@ class SharedPtr {
     if (object == nullptr) return;
     std::unique_ptr<T, void (*)(T*)> guard(object, count == 0 ? KeepObject : count == 1 ? DeleteObject : DeleteArray);
     block_ = new SharedBlock(const_cast<std::remove_const_t<T>*>(object), count);
-    guard.release();
+    static_cast<void>(guard.release());
   }
 
   SharedPtr(SharedPtr const& other) noexcept : block_(other.block_) { Retain(); }
@@ -168,7 +168,7 @@ SharedPtr<T> MakeSharedArray(std::size_t count) {
     auto block = std::make_unique<SharedBlock>(elements, count);
     block->form = SharedForm::kSlots;
     std::uninitialized_value_construct_n(elements, count);
-    slots.release();
+    static_cast<void>(slots.release());
     SharedPtr<T> holder;
     holder.block_ = block.release();
     return holder;

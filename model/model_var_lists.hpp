@@ -24,6 +24,7 @@ inline void AddMember(ConeBuilder& builder, Var const& var, double) {
 template <class Builder, class Item>
 std::vector<Builder> Model::GetVarListBuilders(VarListReader const& reader, std::vector<Item> const& items) {
   std::vector<int> chosen;
+  chosen.reserve(items.size());
   for (Item const& item : items) chosen.push_back(item.Idx());
   int const count = chosen.empty() ? Count<Item>() : static_cast<int>(chosen.size());
   int const* const indices = chosen.empty() ? nullptr : chosen.data();

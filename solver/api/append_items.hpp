@@ -26,7 +26,7 @@ void AppendItems(std::vector<T>& items, NameList& list, std::vector<T>&& added, 
 }
 
 template <typename T>
-void AppendItem(std::vector<T>& items, NameList& list, T&& added, char const* name) {
+void AppendItem(std::vector<T>& items, NameList& list, T added, char const* name) {
   std::vector<T> one;
   one.push_back(std::move(added));
   AppendItems(items, list, std::move(one), &name);

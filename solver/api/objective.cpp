@@ -13,6 +13,7 @@ namespace {
 // One matrix a PSD column is all that can be read back.
 void CheckOnceEach(std::vector<PsdTerm> const& terms) {
   std::vector<int> psdCols;
+  psdCols.reserve(terms.size());
   for (auto const& term : terms) psdCols.push_back(term.psdCol);
   std::ranges::sort(psdCols);
   auto const twice = std::ranges::adjacent_find(psdCols);

@@ -33,6 +33,7 @@ std::vector<int> OrderedMembers(Sos const& sos) {
     std::ranges::stable_sort(order, {}, [&](int member) { return sos.weights[member]; });
   }
   std::vector<int> cols;
+  cols.reserve(order.size());
   for (int const member : order) cols.push_back(sos.cols[member]);
   return cols;
 }
@@ -50,7 +51,7 @@ MipModel::MipModel(ProblemData const& data, ParameterSet const& parameters) : li
   double const tolerance = parameters.Dbl(DblParam::kIntTol);
   auto const& columns = data.columns;
   for (int col = 0; col < columns.Count(); ++col) {
-    isInteger.push_back(IsIntegerType(columns.type[col]));
+    isInteger.push_back(IsIntegerType(columns.type[col]) ? 1 : 0);
     if (!isInteger[col]) continue;
     linear.lower[col] = std::ceil(linear.lower[col] - tolerance);
     linear.upper[col] = std::floor(linear.upper[col] + tolerance);

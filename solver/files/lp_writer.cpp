@@ -207,9 +207,7 @@ class LpWriter {
     if (ranged) Term(Text(NumberText(lower), " <="));
     LinearPart(row);
     if (row.indices.empty()) Term("0");
-    if (ranged) {
-      EndWith('L', upper);
-    } else if (lower == upper) {
+    if (lower == upper) {
       EndWith('E', lower);
     } else if (upper < kInfinity) {
       EndWith('L', upper);
