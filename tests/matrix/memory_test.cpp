@@ -1,44 +1,9 @@
 // What blocks allocate: views, transposes and clones of a million variables share their cells.
-#include <cstdlib>
 #include <functional>
-#include <new>
 
 #include "handles/matrix_items.hpp"
 #include "tests/matrix/matrix_fixture.hpp"
-
-namespace {
-
-std::size_t allocatedBytes = 0;
-std::size_t allocations = 0;
-
-void* CountedAllocate(std::size_t size) {
-  allocatedBytes += size;
-  ++allocations;
-  void* memory = std::malloc(size == 0 ? 1 : size);
-  if (memory == nullptr) throw std::bad_alloc();
-  return memory;
-}
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-  return CountedAllocate(size);
-}
-void* operator new[](std::size_t size) {
-  return CountedAllocate(size);
-}
-void operator delete(void* memory) noexcept {
-  std::free(memory);
-}
-void operator delete[](void* memory) noexcept {
-  std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
-void operator delete[](void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
+#include "tests/support/allocations.hpp"
 
 namespace vorqtest {
 namespace {

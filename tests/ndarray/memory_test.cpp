@@ -1,52 +1,20 @@
 // What arrays allocate and copy: views, transposes and stretched arrays share the store.
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <functional>
-#include <new>
 
 #include "ndarray/elementwise.hpp"
 #include "ndarray/nd_array_operations.hpp"
 #include "ndarray/rank_change.hpp"
 #include "tests/ndarray/arrays.hpp"
-
-namespace {
-
-std::size_t allocatedBytes = 0;
-
-void* CountedAllocate(std::size_t size) {
-  allocatedBytes += size;
-  void* memory = std::malloc(size == 0 ? 1 : size);
-  if (memory == nullptr) throw std::bad_alloc();
-  return memory;
-}
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-  return CountedAllocate(size);
-}
-void* operator new[](std::size_t size) {
-  return CountedAllocate(size);
-}
-void operator delete(void* memory) noexcept {
-  std::free(memory);
-}
-void operator delete[](void* memory) noexcept {
-  std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
-void operator delete[](void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
+#include "tests/support/allocations.hpp"
 
 namespace {
 
 using Vorq::NdArray;
 using Vorq::NDim;
 using Vorq::View;
+using vorqtest::allocatedBytes;
 
 constexpr std::uint64_t kSide = 1000;
 

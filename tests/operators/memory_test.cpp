@@ -1,43 +1,7 @@
 // What the operators allocate: the store of the result, and exact room for its terms.
-#include <cstdlib>
-#include <new>
-
 #include "matrix/operators.hpp"
 #include "tests/operators/operand_fixture.hpp"
-
-namespace {
-
-std::size_t allocations = 0;
-std::size_t allocatedBytes = 0;
-
-void* CountedAllocate(std::size_t size) {
-  ++allocations;
-  allocatedBytes += size;
-  void* memory = std::malloc(size == 0 ? 1 : size);
-  if (memory == nullptr) throw std::bad_alloc();
-  return memory;
-}
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-  return CountedAllocate(size);
-}
-void* operator new[](std::size_t size) {
-  return CountedAllocate(size);
-}
-void operator delete(void* memory) noexcept {
-  std::free(memory);
-}
-void operator delete[](void* memory) noexcept {
-  std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
-void operator delete[](void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
+#include "tests/support/allocations.hpp"
 
 namespace vorqtest {
 namespace {
