@@ -70,6 +70,14 @@ enum VORQ_NameKind {
   VORQ_INT_ATTR = 3
 };
 
+/* Where a MIP solve calls back; sums of them are the context mask of VORQ_SetCallback, and -1
+ * stands for all. */
+enum VORQ_Context {
+  VORQ_CONTEXT_RELAXATION = 1, /* the relaxation of a node was solved */
+  VORQ_CONTEXT_CANDIDATE = 2,  /* a solution was found that lazy constraints may cut off */
+  VORQ_CONTEXT_INCUMBENT = 4   /* a solution was accepted as the best so far */
+};
+
 typedef void (*VORQ_LogFunction)(char const* line, void* user);
 typedef int (*VORQ_CallbackFunction)(VORQ_Prob* prob, VORQ_CallbackData* data, int context, void* user);
 

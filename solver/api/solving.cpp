@@ -3,9 +3,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <exception>
 
 #include "solver/api/arguments.hpp"
 #include "solver/api/guard.hpp"
+#include "solver/tasks/callback_session.hpp"
 
 using namespace vorqsolver;
 
@@ -18,6 +20,20 @@ int Idle(VORQ_Prob* prob, Body&& body) noexcept {
     if (problem.solving) Refuse("The problem is being solved");
     body(problem);
   });
+}
+
+// An exception of the caller's callback goes on to the caller, once nothing of the solve is left.
+int SolveOrRethrow(VORQ_Prob* prob, bool relaxed) {
+  std::exception_ptr thrown;
+  int const code = Guard(prob, [&](Problem& problem) {
+    try {
+      SolveProblem(problem, relaxed);
+    } catch (CallbackException const& exception) {
+      thrown = exception.cause;
+    }
+  });
+  if (thrown) std::rethrow_exception(thrown);
+  return code;
 }
 
 int NotAvailable(VORQ_Prob* prob, char const* what) {
@@ -55,11 +71,11 @@ PoolSolution const& PoolAt(Problem const& problem, int index) {
 }  // namespace
 
 int VORQ_Solve(VORQ_Prob* prob) {
-  return Guard(prob, [](Problem& problem) { SolveProblem(problem, false); });
+  return SolveOrRethrow(prob, false);
 }
 
 int VORQ_SolveLp(VORQ_Prob* prob) {
-  return Guard(prob, [](Problem& problem) { SolveProblem(problem, true); });
+  return SolveOrRethrow(prob, true);
 }
 
 // Touches nothing but the flag, so that any thread may call it at any time.

@@ -3,7 +3,6 @@
 
 #include <CbcConfig.h>
 
-#include <CbcBranchActual.hpp>
 #include <CbcEventHandler.hpp>
 #include <CbcModel.hpp>
 #include <CbcTree.hpp>
@@ -14,7 +13,6 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
-#include <numeric>
 
 #include "solver/engines/cbc_setup.hpp"
 #include "solver/engines/clp_control.hpp"
@@ -89,7 +87,6 @@ class CbcSolver {
   std::unique_ptr<OsiClpSolverInterface> Preprocess();
   bool MayPreprocess() const;
   void Search(OsiClpSolverInterface& reduced);
-  void AddSets(CbcModel& model);
   void OfferStart(CbcModel& model, OsiClpSolverInterface const& reduced);
   void Conclude(CbcModel const& model);
   void CarryBack(std::vector<double> const& reducedValues);
@@ -253,7 +250,7 @@ bool CbcSolver::CompletePartial(MipStart const& start) {
   model.setMaximumNodes(limit < 0 ? kNodes : limit);
   model.setUseElapsedTime(true);
   model.setMaximumSeconds(std::max(0.0, task_.stop.Remaining()));
-  AddSets(model);
+  AddSets(model, mip_.sets);
   model.branchAndBound();
   if (model.bestSolution() == nullptr) return false;
   std::vector<double> const values(model.bestSolution(), model.bestSolution() + task_.data.columns.Count());
@@ -300,23 +297,6 @@ std::unique_ptr<OsiClpSolverInterface> CbcSolver::Preprocess() {
   return reduced;
 }
 
-void CbcSolver::AddSets(CbcModel& model) {
-  if (mip_.sets.empty()) return;
-  model.findIntegers(true);
-  std::vector<std::unique_ptr<CbcObject>> objects;
-  std::vector<CbcObject*> pointers;
-  for (auto const& set : mip_.sets) {
-    std::vector<double> weights(set.cols.size());
-    std::iota(weights.begin(), weights.end(), 1.0);
-    objects.push_back(std::make_unique<CbcSOS>(&model, static_cast<int>(set.cols.size()), set.cols.data(),
-                                               weights.data(), static_cast<int>(objects.size()), set.type));
-    // Before the integer columns: a set that is settled settles the most.
-    objects.back()->setPriority(100);
-    pointers.push_back(objects.back().get());
-  }
-  model.addObjects(static_cast<int>(pointers.size()), pointers.data());
-}
-
 // The best start as an incumbent of the search. Where the reduced model refuses it, it still cuts off what is worse.
 void CbcSolver::OfferStart(CbcModel& model, OsiClpSolverInterface const& reduced) {
   if (incumbents_.IsEmpty()) return;
@@ -348,7 +328,7 @@ void CbcSolver::Search(OsiClpSolverInterface& reduced) {
   model.setUseElapsedTime(true);
   model.setMaximumSeconds(std::max(0.0, task_.stop.Remaining()));
   model.initialSolve();
-  AddSets(model);
+  AddSets(model, mip_.sets);
   OfferStart(model, reduced);
   SearchWatch const watch(task_, progress_, found);
   model.passInEventHandler(&watch);
@@ -492,7 +472,7 @@ std::string CbcEngine::Version() const {
 }
 
 bool CbcEngine::Supports(ProblemClass const& what) const {
-  return what.IsLinear();
+  return what.IsLinear() && !what.dynamic;
 }
 
 SolveResult CbcEngine::Solve(SolveTask const& task) const {

@@ -1,6 +1,7 @@
 // Cuts, heuristics and branching rules of the MIP engine.
 #include "solver/engines/cbc_setup.hpp"
 
+#include <CbcBranchActual.hpp>
 #include <CbcHeuristic.hpp>
 #include <CbcHeuristicDiveCoefficient.hpp>
 #include <CbcHeuristicFPump.hpp>
@@ -16,6 +17,8 @@
 #include <CglTwomir.hpp>
 #include <CglZeroHalf.hpp>
 #include <limits>
+#include <numeric>
+#include <type_traits>
 
 #include "solver/parameters/parameter_set.hpp"
 
@@ -29,7 +32,7 @@ constexpr int kWhereUseful = -98;
 // A negative number stands for the depth -2 - number, here 10.
 constexpr int kFastDepth = -12;
 
-void AddCuts(CbcModel& model) {
+CglProbing Probing() {
   CglProbing probing;
   probing.setUsingObjective(1);
   probing.setMaxPass(1);
@@ -41,32 +44,7 @@ void AddCuts(CbcModel& model) {
   probing.setMaxElements(200);
   probing.setMaxElementsRoot(300);
   probing.setRowCuts(3);
-  model.addCutGenerator(&probing, kWhereUseful, "Probing");
-
-  CglGomory gomory;
-  gomory.setLimitAtRoot(1000);
-  gomory.setLimit(50);
-  model.addCutGenerator(&gomory, kWhereUseful, "Gomory");
-
-  CglKnapsackCover knapsack;
-  model.addCutGenerator(&knapsack, kWhereUseful, "Knapsack");
-
-  CglClique clique;
-  clique.setStarCliqueReport(false);
-  clique.setRowCliqueReport(false);
-  model.addCutGenerator(&clique, kWhereUseful, "Clique");
-
-  CglMixedIntegerRounding2 rounding;
-  model.addCutGenerator(&rounding, kWhereUseful, "Rounding");
-
-  CglFlowCover flow;
-  model.addCutGenerator(&flow, kWhereUseful, "FlowCover");
-
-  CglTwomir twomir;
-  model.addCutGenerator(&twomir, kWhereUseful, "TwoMir");
-
-  CglZeroHalf zeroHalf;
-  model.addCutGenerator(&zeroHalf, kWhereUseful, "ZeroHalf");
+  return probing;
 }
 
 void AddHeuristics(CbcModel& model) {
@@ -94,8 +72,50 @@ void AddHeuristics(CbcModel& model) {
 
 }  // namespace
 
+std::vector<NamedGenerator> CutGenerators() {
+  CglGomory gomory;
+  gomory.setLimitAtRoot(1000);
+  gomory.setLimit(50);
+  CglClique clique;
+  clique.setStarCliqueReport(false);
+  clique.setRowCliqueReport(false);
+
+  std::vector<NamedGenerator> generators;
+  auto const add = [&generators](char const* name, auto const& generator) {
+    generators.push_back({name, std::make_unique<std::decay_t<decltype(generator)>>(generator)});
+  };
+  add("Probing", Probing());
+  add("Gomory", gomory);
+  add("Knapsack", CglKnapsackCover());
+  add("Clique", clique);
+  add("Rounding", CglMixedIntegerRounding2());
+  add("FlowCover", CglFlowCover());
+  add("TwoMir", CglTwomir());
+  add("ZeroHalf", CglZeroHalf());
+  return generators;
+}
+
+void AddSets(CbcModel& model, std::vector<MipModel::Set> const& sets) {
+  if (sets.empty()) return;
+  model.findIntegers(true);
+  std::vector<std::unique_ptr<CbcObject>> objects;
+  std::vector<CbcObject*> pointers;
+  for (auto const& set : sets) {
+    std::vector<double> weights(set.cols.size());
+    std::iota(weights.begin(), weights.end(), 1.0);
+    objects.push_back(std::make_unique<CbcSOS>(&model, static_cast<int>(set.cols.size()), set.cols.data(),
+                                               weights.data(), static_cast<int>(objects.size()), set.type));
+    // Before the integer columns: a set that is settled settles the most.
+    objects.back()->setPriority(100);
+    pointers.push_back(objects.back().get());
+  }
+  model.addObjects(static_cast<int>(pointers.size()), pointers.data());
+}
+
 void SetUpCbc(CbcModel& model, ParameterSet const& parameters, bool plain) {
-  if (parameters.Int(IntParam::kCutLevel) != 0) AddCuts(model);
+  if (parameters.Int(IntParam::kCutLevel) != 0) {
+    for (auto const& [name, generator] : CutGenerators()) model.addCutGenerator(generator.get(), kWhereUseful, name);
+  }
   if (parameters.Int(IntParam::kHeurLevel) != 0 && !plain) AddHeuristics(model);
   model.setNumberStrong(parameters.Int(IntParam::kStrongBranching) == 0 ? 0 : 5);
   // More trials than usual: with fewer, a small general-integer problem such as bell5 can take many times as long.

@@ -1,6 +1,12 @@
 // How a CbcModel is set up: cuts, heuristics, branching, limits. Without these Cbc is many times slower.
 #pragma once
 
+#include <CglCutGenerator.hpp>
+#include <memory>
+#include <vector>
+
+#include "solver/engines/mip_model.hpp"
+
 class CbcModel;
 
 namespace vorqsolver {
@@ -9,5 +15,15 @@ class ParameterSet;
 
 // `plain` leaves heuristics out, which know nothing of SOS.
 void SetUpCbc(CbcModel& model, ParameterSet const& parameters, bool plain);
+
+// Adds the sets as things to branch on.
+void AddSets(CbcModel& model, std::vector<MipModel::Set> const& sets);
+
+// The generators of cuts that pay.
+struct NamedGenerator {
+  char const* name;
+  std::unique_ptr<CglCutGenerator> generator;
+};
+std::vector<NamedGenerator> CutGenerators();
 
 }  // namespace vorqsolver

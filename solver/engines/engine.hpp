@@ -16,6 +16,8 @@
 
 namespace vorqsolver {
 
+class CallbackSession;
+
 using Clock = std::chrono::steady_clock;
 
 // Says when to stop, and which of the reasons it was.
@@ -31,6 +33,9 @@ class StopSignal {
 
   double Elapsed() const { return std::chrono::duration<double>(Clock::now() - start_).count(); }
   double Remaining() const { return seconds_ - Elapsed(); }
+
+  // As if interrupted.
+  void Stop() { reason_ = SolveStatus::kInterrupted; }
 
   // From the first solution on another limit may hold, counted from the start as well.
   void Tighten(double seconds);
@@ -50,6 +55,7 @@ struct SolveTask {
   std::vector<MipStart> const& starts;
   StopSignal& stop;
   Log& log;
+  CallbackSession* callback = nullptr;  // the caller's callback, null where none is called
 };
 
 class Engine {

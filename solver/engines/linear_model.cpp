@@ -33,7 +33,7 @@ void Uncross(std::vector<double>& lower, std::vector<double>& upper) {
 
 }  // namespace
 
-LinearModel::LinearModel(ProblemData const& data, bool userCuts)
+LinearModel::LinearModel(ProblemData const& data, NoSideRows /*none*/)
     : lower(AllToEngine(data.columns.lower)),
       upper(AllToEngine(data.columns.upper)),
       cost(data.columns.objective),
@@ -54,6 +54,9 @@ LinearModel::LinearModel(ProblemData const& data, bool userCuts)
   }
   Uncross(lower, upper);
   Uncross(rowLower, rowUpper);
+}
+
+LinearModel::LinearModel(ProblemData const& data, bool userCuts) : LinearModel(data, NoSideRows()) {
   AddSideRows(data.lazyConstraints);
   if (userCuts) AddSideRows(data.userCuts);
 }

@@ -22,6 +22,10 @@ class LinearModel {
   // constraints as rows. With `userCuts`, these are rows too.
   LinearModel(ProblemData const& data, bool userCuts);
 
+  // The same without lazy constraints and user cuts.
+  struct NoSideRows {};
+  LinearModel(ProblemData const& data, NoSideRows none);
+
   int AddCol(double lower, double upper, double objective);
   void AddRow(std::span<LinearTerm const> terms, double lower, double upper);
 

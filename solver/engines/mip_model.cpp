@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 #include "solver/engines/implied_bounds.hpp"
 #include "solver/problem/failure.hpp"
@@ -47,7 +48,11 @@ Side SideOf(Indicator const& indicator) {
   }
 }
 
-MipModel::MipModel(ProblemData const& data, ParameterSet const& parameters) : linear(data, true) {
+MipModel::MipModel(ProblemData const& data, ParameterSet const& parameters)
+    : MipModel(data, parameters, LinearModel(data, true)) {}
+
+MipModel::MipModel(ProblemData const& data, ParameterSet const& parameters, LinearModel start)
+    : linear(std::move(start)) {
   double const tolerance = parameters.Dbl(DblParam::kIntTol);
   auto const& columns = data.columns;
   for (int col = 0; col < columns.Count(); ++col) {

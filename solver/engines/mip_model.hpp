@@ -19,6 +19,9 @@ class MipModel {
 
   MipModel(ProblemData const& data, ParameterSet const& parameters);
 
+  // Starts from rows and columns that stem from `data`, such as those without lazy constraints and user cuts.
+  MipModel(ProblemData const& data, ParameterSet const& parameters, LinearModel start);
+
   LinearModel linear;
   std::vector<char> isInteger;  // one for each column of `linear`
   std::vector<Set> sets;

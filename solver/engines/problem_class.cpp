@@ -9,7 +9,7 @@ namespace vorqsolver {
 
 ProblemClass ProblemClass::Relaxed() const {
   ProblemClass relaxed = *this;
-  relaxed.integers = relaxed.semicontinuous = relaxed.sos = relaxed.indicators = false;
+  relaxed.integers = relaxed.semicontinuous = relaxed.sos = relaxed.indicators = relaxed.dynamic = false;
   return relaxed;
 }
 
@@ -26,6 +26,7 @@ std::string ProblemClass::Describe() const {
       {affineCones, "affine cones"},
       {psd, "PSD columns"},
       {lmi, "LMI constraints"},
+      {dynamic, "lazy constraints, user cuts or a callback"},
   };
   std::vector<char const*> present;
   for (auto const& [is, name] : parts) {
@@ -55,6 +56,8 @@ ProblemClass Classify(ProblemData const& data) {
   result.affineCones = !data.affineCones.empty();
   result.psd = !data.psdDims.empty() || !data.psdConstraints.empty();
   result.lmi = !data.lmiConstraints.empty();
+  bool const hasSideRows = data.lazyConstraints.Count() + data.userCuts.Count() > 0;
+  result.dynamic = result.IsDiscrete() && hasSideRows;
   return result;
 }
 

@@ -19,13 +19,14 @@ struct ProblemClass {
   bool affineCones = false;
   bool psd = false;
   bool lmi = false;
+  bool dynamic = false;  // lazy constraints, user cuts or a callback: rows may come while the search runs
 
   bool IsDiscrete() const { return integers || semicontinuous || sos || indicators; }
   bool IsLinear() const {
     return !(quadraticObjective || quadraticRows || cones || expCones || affineCones || psd || lmi);
   }
 
-  // Without integrality, SOS, indicators and semicontinuity.
+  // Without integrality, SOS, indicators and semicontinuity; nothing comes during the solve then.
   ProblemClass Relaxed() const;
 
   // Such as "integer columns and a quadratic objective"; "linear rows" where there is nothing else.

@@ -11,6 +11,7 @@
 #include "solver/parameters/parameter_set.hpp"
 #include "solver/problem/problem_data.hpp"
 #include "solver/problem/solution.hpp"
+#include "solver/tasks/callback_session.hpp"
 #include "solver/tasks/log.hpp"
 
 namespace vorqsolver {
@@ -32,6 +33,7 @@ class Problem {
 
   Log log{&parameters};
   UserCallback callback;
+  CallbackSession callbackSession;  // lives as long as the problem, so that stale callback data is told as such
   std::atomic<bool> interrupted = false;
   std::atomic<bool> solving = false;  // results and data must not change then
 

@@ -66,6 +66,13 @@ struct PsdTerm {
   int symMat = 0;
 };
 
+// lower <= terms <= upper, apart from any table.
+struct LinearRow {
+  std::vector<LinearTerm> terms;
+  double lower = -kInfinity;
+  double upper = kInfinity;
+};
+
 struct Indicator {
   int type = 0;
   int binCol = 0;

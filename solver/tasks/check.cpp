@@ -156,6 +156,7 @@ Violations CheckSolution(ProblemData const& data, std::span<double const> values
   checker.CheckColumns(relaxed);
   checker.CheckRows();
   if (!relaxed) {
+    checker.CheckSide(data.userCuts);
     for (auto const& sos : data.soss) checker.CheckSos(sos);
     for (auto const& indicator : data.indicators) checker.CheckIndicator(indicator);
   }

@@ -26,7 +26,8 @@ struct Violations {
   bool Holds(ParameterSet const& parameters) const;
 };
 
-// Lazy constraints count as rows. With `relaxed`, integrality, semicontinuity, SOS and indicators do not count.
+// Lazy constraints and user cuts count as rows. With `relaxed`, user cuts, integrality, semicontinuity, SOS and
+// indicators do not count.
 Violations CheckSolution(ProblemData const& data, std::span<double const> values, bool relaxed = false);
 
 }  // namespace vorqsolver

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "solver/engines/branch_and_cut.hpp"
 #include "solver/engines/cbc_engine.hpp"
 #include "solver/engines/clp_engine.hpp"
 #include "solver/problem/deletion.hpp"
@@ -15,12 +16,16 @@
 namespace vorqsolver {
 
 std::span<std::unique_ptr<Engine const> const> Engines() {
-  static std::array<std::unique_ptr<Engine const>, 2> const engines = {std::make_unique<ClpEngine>(),
-                                                                       std::make_unique<CbcEngine>()};
+  static std::array<std::unique_ptr<Engine const>, 3> const engines = {
+      std::make_unique<ClpEngine>(), std::make_unique<CbcEngine>(), std::make_unique<BranchAndCutEngine>()};
   return engines;
 }
 
 namespace {
+
+VORQ_Prob* ToHandle(Problem& problem) {
+  return reinterpret_cast<VORQ_Prob*>(&problem);
+}
 
 Engine const& ChooseEngine(ProblemClass const& what) {
   for (auto const& engine : Engines()) {
@@ -75,7 +80,9 @@ void CheckResult(Problem& problem, bool relaxed) {
 SolveResult Run(Problem& problem, bool relaxed, Start const& start, Clock::time_point begin) {
   auto const& data = problem.data;
   CheckNoLostColumns(data);
-  auto const all = Classify(data);
+  auto all = Classify(data);
+  bool const callsBack = all.IsDiscrete() && problem.callback.function != nullptr && problem.callback.contextMask != 0;
+  all.dynamic |= callsBack;
   auto const what = relaxed ? all.Relaxed() : all;
   auto const& engine = ChooseEngine(what);
   Validate(data);
@@ -84,7 +91,10 @@ SolveResult Run(Problem& problem, bool relaxed, Start const& start, Clock::time_
   if (!cause.empty()) return PlainlyInfeasible(what, cause);
   LogEngine(problem, engine, what);
   StopSignal stop(problem.interrupted, begin, problem.parameters.Dbl(DblParam::kTimeLimit));
-  return engine.Solve({data, problem.parameters, start.basis, start.values, problem.starts, stop, problem.log});
+  auto const& [function, mask, user] = problem.callback;
+  problem.callbackSession.Set(ToHandle(problem), function, mask, user);
+  return engine.Solve({data, problem.parameters, start.basis, start.values, problem.starts, stop, problem.log,
+                       what.dynamic && callsBack ? &problem.callbackSession : nullptr});
 }
 
 // True for as long as it lives.

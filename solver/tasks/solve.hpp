@@ -14,7 +14,8 @@ namespace vorqsolver {
 std::span<std::unique_ptr<Engine const> const> Engines();
 
 // Solves the problem, or with `relaxed` its LP relaxation, and leaves the outcome in `problem.result`. Throws Failure
-// where the data is unfit or no engine solves problems of this kind; the former result is gone then too.
+// where the data is unfit or no engine solves problems of this kind, and CallbackException with what the caller's
+// callback threw; the former result is gone then too.
 void SolveProblem(Problem& problem, bool relaxed);
 
 }  // namespace vorqsolver

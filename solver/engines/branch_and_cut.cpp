@@ -1,0 +1,492 @@
+// The search tree, its nodes and what is done at each of them.
+#include "solver/engines/branch_and_cut.hpp"
+
+#include <ClpConfig.h>
+
+#include <CglTreeInfo.hpp>
+#include <CoinError.hpp>
+#include <OsiCuts.hpp>
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <optional>
+#include <utility>
+
+#include "solver/engines/branching.hpp"
+#include "solver/engines/cbc_setup.hpp"
+#include "solver/engines/search_solutions.hpp"
+#include "solver/engines/search_tree.hpp"
+#include "solver/engines/sub_search.hpp"
+#include "solver/problem/failure.hpp"
+
+namespace vorqsolver {
+
+namespace {
+
+constexpr double kNone = std::numeric_limits<double>::infinity();
+constexpr double kBox = 1e7;              // bounds put on a search that the relaxation alone does not bound
+constexpr std::size_t kRowsARound = 100;  // of the pool
+constexpr int kRootRounds = 50;           // of rows for points that are not integer
+constexpr int kTreeRounds = 5;
+constexpr int kCutPasses = 20;
+constexpr std::size_t kCutsARound = 200;
+constexpr double kLeastGain = 1e-4;  // of the objective by a pass of cuts
+constexpr int kFirstNeighbourhood = 50;
+
+using Outcome = TreeRelaxation::Outcome;
+
+class BranchAndCut {
+ public:
+  explicit BranchAndCut(SolveTask const& task)
+      : task_(task),
+        mip_(task.data, task.parameters, LinearModel(task.data, LinearModel::NoSideRows())),
+        pool_(task.parameters.Dbl(DblParam::kFeasTol)),
+        progress_(task),
+        tick_([this](ClpSimplex const*) { progress_.Tick(); }),
+        relaxation_(task, mip_, pool_, tick_),
+        branching_(mip_, task.parameters),
+        solutions_(task, mip_, pool_, progress_) {
+    AddToPool(task.data.lazyConstraints, CutPool::Kind::kLazyConstraint);
+    AddToPool(task.data.userCuts, CutPool::Kind::kUserCut);
+    result_.engine = "Vorq";
+    result_.isMip = true;
+  }
+
+  SolveResult Run();
+
+ private:
+  enum class NodeEnd { kDone, kStopped };
+
+  void AddToPool(SideRows const& rows, CutPool::Kind kind);
+  bool SolveRoot();
+  void Bound();
+  void TakeStarts();
+  void RunTree();
+  bool IsAtLimit();
+  NodeEnd Process(SearchNode& node);
+  std::optional<NodeEnd> TakeIntegral(SearchNode& node);
+  bool AddViolated();
+  bool Separate();
+  bool AddCuts();
+  NodeEnd Split(SearchNode const& node, BranchChoice const& choice);
+  bool IsTimeToDive();
+  void Dive(SearchNode const& node);
+  void SearchNeighbourhood();
+  double LowerBound() const;
+  int OpenNodes() const { return tree_.Size() + (next_ ? 1 : 0); }
+  void Conclude();
+  SolveResult Finish();
+
+  double ProblemValue(double engineValue) const {
+    return mip_.linear.sign * engineValue + task_.data.objective.constant + 0.0;
+  }
+  double EngineValue(double objective) const { return mip_.linear.sign * (objective - task_.data.objective.constant); }
+
+  SolveTask const& task_;
+  MipModel mip_;
+  CutPool pool_;
+  MipProgress progress_;
+  IterationWatch::Report tick_;
+  TreeRelaxation relaxation_;
+  Branching branching_;
+  SearchSolutions solutions_;
+  SearchTree tree_;
+  std::optional<SearchNode> next_;  // the child to go on with
+  double current_ = kNone;          // the bound of the node at work
+  double lost_ = kNone;             // the best bound of nodes that the engine could not solve
+  bool isBoxed_ = false;
+  bool isAtNodeLimit_ = false;
+  int nodes_ = 0;
+  int nextDive_ = 0;
+  int nextNeighbourhood_ = kFirstNeighbourhood;
+
+  std::vector<NamedGenerator> generators_;
+  int cutPass_ = 0;
+  double lastCutObjective_ = 0.0;
+  SolveResult result_;
+};
+
+void BranchAndCut::AddToPool(SideRows const& rows, CutPool::Kind kind) {
+  for (int row = 0; row < rows.Count(); ++row) {
+    auto const view = rows.matrix.Row(row);
+    LinearRow added{{}, rows.lower[row], rows.upper[row]};
+    for (std::size_t k = 0; k < view.indices.size(); ++k) added.terms.push_back({view.indices[k], view.values[k]});
+    pool_.Add(std::move(added), kind, CutPool::Source::kProblem);
+  }
+}
+
+SolveResult BranchAndCut::Run() {
+  if (!SolveRoot()) return Finish();
+  TakeStarts();
+  tree_.Push(SearchNode());
+  RunTree();
+  Conclude();
+  return Finish();
+}
+
+// The first relaxation; false where it settles the problem.
+bool BranchAndCut::SolveRoot() {
+  auto outcome = relaxation_.Solve();
+  if (outcome == Outcome::kUnbounded) {
+    // Lazy constraints may bound it.
+    std::vector<int> all;
+    for (int entry = 0; entry < pool_.Size(); ++entry) all.push_back(entry);
+    relaxation_.AddFromPool(all);
+    outcome = relaxation_.Solve();
+  }
+  if (outcome == Outcome::kUnbounded) {
+    task_.log.Line("The relaxation is unbounded or infeasible: searching within a box");
+    Bound();
+    outcome = relaxation_.Solve();
+  }
+  switch (outcome) {
+    case Outcome::kStopped: result_.mipStatus = task_.stop.Reason(); return false;
+    case Outcome::kInfeasible: result_.mipStatus = SolveStatus::kInfeasible; return false;
+    case Outcome::kUnbounded: result_.mipStatus = SolveStatus::kInfeasibleOrUnbounded; return false;
+    case Outcome::kFailed: result_.mipStatus = SolveStatus::kNumerical; return false;
+    case Outcome::kOptimal: break;
+  }
+  progress_.Update(0, 1, relaxation_.Objective());
+  task_.log.Print("Root relaxation: objective %.9e, %d iterations, %.1fs", ProblemValue(relaxation_.Objective()),
+                  relaxation_.Iterations(), task_.stop.Elapsed());
+  return true;
+}
+
+// What is discrete, and rows to come, may bound what the relaxation does not. Within a wide box the search tells: a
+// best point on the box's border means unbounded.
+void BranchAndCut::Bound() {
+  isBoxed_ = true;
+  auto& linear = mip_.linear;
+  for (int col = 0; col < linear.ColCount(); ++col) {
+    linear.lower[col] = std::max(linear.lower[col], std::min(-kBox, linear.upper[col]));
+    linear.upper[col] = std::min(linear.upper[col], std::max(kBox, linear.lower[col]));
+    relaxation_.SetRootBounds(col, linear.lower[col], linear.upper[col]);
+  }
+}
+
+void BranchAndCut::TakeStarts() {
+  constexpr int kNodes = 200;
+  enum Mode { kRejectAll = 0, kFullOnly = 1, kNoRepair = 2 };
+  int const mode = task_.parameters.Int(IntParam::kMipStartMode);
+  int const limit = task_.parameters.Int(IntParam::kMipStartNodeLimit);
+  int number = 0;
+  for (auto const& start : task_.starts) {
+    ++number;
+    bool const isFull = std::ranges::find(start.values, VORQ_UNDEFINED) == start.values.end();
+    std::optional<std::vector<double>> values;
+    if (mode != kRejectAll && (isFull || mode != kFullOnly)) {
+      values = solutions_.Complete(start.values, limit < 0 ? kNodes : limit);
+      bool const isMended = isFull && values && *values != start.values;
+      if (isMended && (mode == kFullOnly || mode == kNoRepair)) values.reset();
+    }
+    auto verdict = values ? solutions_.Judge(*values, 'S') : Verdict::kRefused;
+    if (verdict == Verdict::kCutOff) verdict = solutions_.JudgeCompleted(*values, 'S');
+    solutions_.TakeOffers();
+    if (verdict == Verdict::kAccepted) {
+      task_.log.Print("MIP start %d: accepted, best objective so far %.9e", number,
+                      solutions_.Incumbents().Best().objective);
+    } else {
+      task_.log.Print("MIP start %d: rejected", number);
+    }
+  }
+}
+
+double BranchAndCut::LowerBound() const {
+  double bound = std::min(current_, lost_);
+  if (next_) bound = std::min(bound, next_->bound);
+  if (!tree_.IsEmpty()) bound = std::min(bound, tree_.BestBound());
+  return bound;
+}
+
+// Whether the gap is closed or a limit is met.
+bool BranchAndCut::IsAtLimit() {
+  if (task_.stop.Asked()) return true;
+  if (!solutions_.Incumbents().IsEmpty()) {
+    double const best = EngineValue(solutions_.Incumbents().Best().objective);
+    double const gap = best - LowerBound();
+    double const objective = std::abs(solutions_.Incumbents().Best().objective);
+    if (gap <= task_.parameters.Dbl(DblParam::kAbsGap)) return true;
+    if (gap <= task_.parameters.Dbl(DblParam::kRelGap) * objective) return true;
+  }
+  int const limit = task_.parameters.Int(IntParam::kNodeLimit);
+  isAtNodeLimit_ = limit >= 0 && nodes_ >= limit && nodes_ > 0;
+  return isAtNodeLimit_;
+}
+
+void BranchAndCut::RunTree() {
+  while ((next_ || !tree_.IsEmpty()) && !IsAtLimit()) {
+    SearchNode node = next_ ? std::move(*next_) : tree_.Pop();
+    bool const goesOn = next_.has_value();
+    next_.reset();
+    if (node.bound >= solutions_.Cutoff()) continue;
+    current_ = node.bound;
+    relaxation_.MoveTo(node.changes);
+    if (!goesOn && node.basis) relaxation_.SetBasis(*node.basis);
+    if (node.depth > 0) ++nodes_;
+    if (Process(node) == NodeEnd::kStopped) tree_.Push(std::move(node));
+    current_ = kNone;
+    tree_.Prune(solutions_.Cutoff());
+    double const bound = LowerBound();
+    progress_.Update(nodes_, OpenNodes(), std::min(bound, solutions_.Cutoff()));
+    progress_.Tick();
+  }
+}
+
+// Puts in rows of the pool that the relaxation violates.
+bool BranchAndCut::AddViolated() {
+  auto const violated = pool_.Violated(relaxation_.Values(), kRowsARound);
+  relaxation_.AddFromPool(violated);
+  return !violated.empty();
+}
+
+// Shows the point to the callback and puts in what it adds, or what the pool has.
+bool BranchAndCut::Separate() {
+  if (AddViolated()) return true;
+  solutions_.SetCounts(nodes_, OpenNodes(), LowerBound());
+  solutions_.ShowRelaxation(relaxation_.Values(), relaxation_.Objective());
+  solutions_.TakeOffers();
+  return AddViolated();
+}
+
+// Solves the node until no more rows come; then it is done, or split.
+BranchAndCut::NodeEnd BranchAndCut::Process(SearchNode& node) {
+  bool const isRoot = node.depth == 0;
+  int rounds = isRoot ? kRootRounds : kTreeRounds;
+  int cutPasses = isRoot && task_.parameters.Int(IntParam::kCutLevel) != 0 ? kCutPasses : 0;
+  bool dives = IsTimeToDive();
+  double const inherited = node.bound;
+  for (bool isFirst = true;; isFirst = false) {
+    auto const outcome = relaxation_.Solve();
+    if (outcome == Outcome::kStopped) return NodeEnd::kStopped;
+    if (outcome == Outcome::kInfeasible) return NodeEnd::kDone;
+    if (outcome != Outcome::kOptimal) {
+      lost_ = std::min(lost_, node.bound);
+      return NodeEnd::kDone;
+    }
+    if (isFirst && std::isfinite(inherited)) branching_.Learn(node.origin, relaxation_.Objective() - inherited);
+    node.bound = current_ = std::max(node.bound, relaxation_.Objective());
+    if (node.bound >= solutions_.Cutoff()) return NodeEnd::kDone;
+    bool const isIntegral = branching_.IsIntegral(relaxation_.Values()) && branching_.SetsHold(relaxation_.Values());
+    if (isIntegral || rounds-- > 0) {
+      bool const isCut = Separate();
+      if (task_.stop.Asked()) return NodeEnd::kStopped;
+      if (isCut) continue;
+      if (node.bound >= solutions_.Cutoff()) return NodeEnd::kDone;
+    }
+    if (isIntegral) {
+      if (auto const end = TakeIntegral(node)) return *end;
+      continue;
+    }
+    if (cutPasses-- > 0 && AddCuts()) continue;
+    if (std::exchange(dives, false)) {
+      Dive(node);
+      relaxation_.MoveTo(node.changes);
+      continue;
+    }
+    if (nodes_ >= nextNeighbourhood_ && task_.parameters.Int(IntParam::kHeurLevel) != 0) {
+      nextNeighbourhood_ *= 2;
+      SearchNeighbourhood();
+      if (task_.stop.Asked()) return NodeEnd::kStopped;
+    }
+    return Split(node, branching_.Choose(relaxation_, solutions_.Cutoff()));
+  }
+}
+
+// Judges an integral point; nothing where rows cut it off, so that the node is to be solved again.
+std::optional<BranchAndCut::NodeEnd> BranchAndCut::TakeIntegral(SearchNode& node) {
+  auto verdict = solutions_.Judge(relaxation_.Values(), '*');
+  solutions_.TakeOffers();
+  if (verdict == Verdict::kAccepted) return NodeEnd::kDone;
+  if (verdict == Verdict::kCutOff && AddViolated()) return std::nullopt;
+  if (task_.stop.Asked()) return NodeEnd::kStopped;
+  if (node.bound >= solutions_.Cutoff()) return NodeEnd::kDone;
+  // Within the tolerances of the engine it is a solution, and not within those of the problem.
+  verdict = solutions_.JudgeCompleted(relaxation_.Values(), '*');
+  solutions_.TakeOffers();
+  if (task_.stop.Asked()) return NodeEnd::kStopped;
+  if (node.bound >= solutions_.Cutoff()) return NodeEnd::kDone;
+  auto choice = branching_.ChooseAmongIntegral(relaxation_);
+  if (choice) return Split(node, std::move(*choice));
+  if (verdict != Verdict::kAccepted) lost_ = std::min(lost_, node.bound);
+  return NodeEnd::kDone;
+}
+
+bool BranchAndCut::AddCuts() {
+  double const before = relaxation_.Objective();
+  if (cutPass_ > 0 && before - lastCutObjective_ < kLeastGain * std::max(1.0, std::abs(before))) return false;
+  lastCutObjective_ = before;
+  if (generators_.empty()) generators_ = CutGenerators();
+  CglTreeInfo info;
+  info.pass = cutPass_++;
+  info.formulation_rows = mip_.linear.RowCount();
+  info.options = 4;
+  OsiCuts cuts;
+  for (auto& [name, generator] : generators_) {
+    if (task_.stop.Asked()) return false;
+    generator->generateCuts(relaxation_.Solver(), cuts, info);
+  }
+  return relaxation_.AddCuts(cuts, kCutsARound);
+}
+
+// Two nodes for one; the search goes on with one of them.
+BranchAndCut::NodeEnd BranchAndCut::Split(SearchNode const& node, BranchChoice const& choice) {
+  if (task_.stop.Asked()) return NodeEnd::kStopped;
+  auto const idle = relaxation_.IdleRows();
+  relaxation_.DeleteRows(idle);
+  tree_.DeleteRows(idle);
+  auto const basis = relaxation_.Basis();
+  auto const child = [&](bool isUp) {
+    auto const& changes = isUp ? choice.up : choice.down;
+    SearchNode made{node.bound,
+                    node.depth + 1,
+                    node.changes,
+                    basis,
+                    {choice.col, isUp, isUp ? choice.upDistance : choice.downDistance}};
+    made.changes.insert(made.changes.end(), changes.begin(), changes.end());
+    return made;
+  };
+  if (choice.upIsEmpty && choice.downIsEmpty) return NodeEnd::kDone;
+  bool const upFirst = choice.downIsEmpty || (choice.upFirst && !choice.upIsEmpty);
+  next_ = child(upFirst);
+  if (!choice.upIsEmpty && !choice.downIsEmpty) tree_.Push(child(!upFirst));
+  return NodeEnd::kDone;
+}
+
+bool BranchAndCut::IsTimeToDive() {
+  constexpr int kSeldom = 200;
+  constexpr int kOften = 30;
+  if (task_.parameters.Int(IntParam::kHeurLevel) == 0 || !mip_.sets.empty()) return false;
+  if (nodes_ > 0 && nodes_ < nextDive_) return false;
+  nextDive_ = nodes_ + (solutions_.Incumbents().IsEmpty() ? kOften : kSeldom);
+  return true;
+}
+
+// Rounds the columns that are closest to an integer, a share at a time, and solves again.
+void BranchAndCut::Dive(SearchNode const& node) {
+  constexpr int kSteps = 100;
+  constexpr double kShare = 0.2;
+  auto changes = node.changes;
+  for (int step = 0; step < kSteps && !task_.stop.Asked(); ++step) {
+    if (AddViolated()) {
+      if (relaxation_.Solve() != Outcome::kOptimal || relaxation_.Objective() >= solutions_.Cutoff()) return;
+      continue;
+    }
+    auto const values = relaxation_.Values();
+    std::vector<std::pair<double, int>> fractional;
+    for (int col = 0; col < mip_.linear.ColCount(); ++col) {
+      double const distance = branching_.Distance(values[col]);
+      if (mip_.isInteger[col] && !branching_.IsInteger(values[col])) fractional.emplace_back(distance, col);
+    }
+    if (fractional.empty()) {
+      auto const verdict = solutions_.Judge(values, 'H');
+      if (verdict == Verdict::kRefused) solutions_.JudgeCompleted(values, 'H');
+      solutions_.TakeOffers();
+      if (verdict == Verdict::kCutOff) continue;
+      return;
+    }
+    std::ranges::sort(fractional);
+    auto const share = static_cast<std::size_t>(std::ceil(kShare * static_cast<double>(fractional.size())));
+    for (std::size_t k = 0; k < share; ++k) {
+      double const value = std::round(values[fractional[k].second]);
+      changes.push_back({fractional[k].second, value, value});
+    }
+    relaxation_.MoveTo(changes);
+    if (relaxation_.Solve() != Outcome::kOptimal || relaxation_.Objective() >= solutions_.Cutoff()) return;
+  }
+}
+
+// A search among the points that agree with the relaxation, and the incumbent if there is one, in many columns.
+void BranchAndCut::SearchNeighbourhood() {
+  constexpr double kLeastShare = 0.4;
+  constexpr int kNodes = 50;
+  auto const values = relaxation_.Values();
+  LinearModel linear = mip_.linear;
+  solutions_.AddRequiredRows(linear);
+  int integers = 0;
+  int fixed = 0;
+  for (int col = 0; col < task_.data.columns.Count(); ++col) {
+    if (!mip_.isInteger[col]) continue;
+    ++integers;
+    double const value = std::round(values[col]);
+    bool const agrees = solutions_.Incumbents().IsEmpty()
+                            ? branching_.IsInteger(values[col])
+                            : std::abs(solutions_.Incumbents().Best().values[col] - values[col]) < 0.1;
+    if (!agrees || value < linear.lower[col] || value > linear.upper[col]) continue;
+    linear.lower[col] = linear.upper[col] = value;
+    ++fixed;
+  }
+  if (fixed < kLeastShare * integers || fixed == integers) return;
+  double const spare = 0.1 * (task_.stop.Elapsed() + 1.0);
+  auto const found =
+      SearchModel(linear, mip_, task_, {.nodes = kNodes, .cutoff = solutions_.Cutoff(), .seconds = spare});
+  if (found) solutions_.JudgeCompleted(*found, 'H');
+  solutions_.TakeOffers();
+}
+
+void BranchAndCut::Conclude() {
+  auto const& incumbents = solutions_.Incumbents();
+  bool const isDone = tree_.IsEmpty() && !next_;
+  if (task_.stop.Reason() != SolveStatus::kUnstarted) {
+    result_.mipStatus = task_.stop.Reason();
+  } else if (isDone && lost_ >= solutions_.Cutoff()) {
+    result_.mipStatus = incumbents.IsEmpty() ? SolveStatus::kInfeasible : SolveStatus::kOptimal;
+  } else if (isAtNodeLimit_) {
+    result_.mipStatus = SolveStatus::kNodeLimit;
+  } else {
+    result_.mipStatus = isDone ? SolveStatus::kNumerical : SolveStatus::kOptimal;
+  }
+}
+
+SolveResult BranchAndCut::Finish() {
+  result_.nodes = nodes_;
+  result_.simplexIterations = relaxation_.Iterations();
+  auto const& incumbents = solutions_.Incumbents();
+  bool const isOptimal = result_.mipStatus == SolveStatus::kOptimal;
+  if (!incumbents.IsEmpty()) {
+    auto const& best = incumbents.Best();
+    bool const touches = std::ranges::any_of(best.values, [](double v) { return std::abs(v) >= 0.5 * kBox; });
+    if (isBoxed_ && touches && isOptimal) {
+      result_.mipStatus = SolveStatus::kUnbounded;
+      return std::move(result_);
+    }
+    auto lp = solutions_.FinalLp();
+    result_.mipValues = best.values;
+    result_.mipObjective = best.objective;
+    result_.lp = std::move(lp.lp);
+    result_.lpObjective = lp.lpObjective;
+    result_.lpStatus = lp.lpStatus;
+    result_.basis = std::move(lp.basis);
+    result_.pool = incumbents.Pool();
+  }
+  double bound = progress_.Bound();
+  if (!incumbents.IsEmpty()) bound = std::min(bound, EngineValue(result_.mipObjective));
+  bool const hasBound = std::abs(bound) < kInfinity && (!isBoxed_ || isOptimal);
+  result_.bestBound = hasBound ? ProblemValue(bound) : -mip_.linear.sign * kInfinity;
+  result_.bestGap =
+      !incumbents.IsEmpty() && hasBound ? RelativeGap(result_.mipObjective, result_.bestBound) : kInfinity;
+  if (pool_.Size() > 0) {
+    task_.log.Print("Rows beside the model: %d lazy constraints, %d user cuts",
+                    pool_.Count(CutPool::Kind::kLazyConstraint), pool_.Count(CutPool::Kind::kUserCut));
+  }
+  return std::move(result_);
+}
+
+}  // namespace
+
+std::string BranchAndCutEngine::Version() const {
+  return Text("over Clp ", CLP_VERSION);
+}
+
+bool BranchAndCutEngine::Supports(ProblemClass const& what) const {
+  return what.IsLinear() && what.dynamic;
+}
+
+SolveResult BranchAndCutEngine::Solve(SolveTask const& task) const {
+  try {
+    return BranchAndCut(task).Run();
+  } catch (CoinError const& error) {
+    throw Failure(VORQ_INTERNAL, "The engine Clp failed: " + error.message());
+  }
+}
+
+}  // namespace vorqsolver

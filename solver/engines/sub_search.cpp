@@ -1,0 +1,53 @@
+// The limited search by Cbc.
+#include "solver/engines/sub_search.hpp"
+
+#include <CbcModel.hpp>
+#include <OsiClpSolverInterface.hpp>
+#include <algorithm>
+#include <cmath>
+
+#include "solver/engines/cbc_setup.hpp"
+#include "solver/engines/clp_control.hpp"
+
+namespace vorqsolver {
+
+std::optional<std::vector<double>> SearchModel(LinearModel const& linear, MipModel const& mip, SolveTask const& task,
+                                               SubSearchLimits const& limits) {
+  SilentHandler silent;
+  IterationWatch::Report tick = [](ClpSimplex const*) {};
+  OsiClpSolverInterface solver;
+  solver.passInMessageHandler(&silent);
+  solver.setHintParam(OsiDoReducePrint, true, OsiHintTry);
+  solver.getModelPtr()->passInMessageHandler(&silent);
+  solver.getModelPtr()->setLogLevel(0);
+  IterationWatch const watch(task.stop, tick);
+  solver.getModelPtr()->passInEventHandler(&watch);
+  solver.loadProblem(linear.Matrix(), linear.lower.data(), linear.upper.data(), linear.cost.data(),
+                     linear.rowLower.data(), linear.rowUpper.data());
+  solver.setObjSense(1.0);
+  solver.setDblParam(OsiPrimalTolerance, 0.1 * task.parameters.Dbl(DblParam::kFeasTol));
+  for (int col = 0; col < linear.ColCount(); ++col) {
+    if (mip.isInteger[col]) solver.setInteger(col);
+  }
+  solver.initialSolve();
+  if (!solver.isProvenOptimal() || task.stop.Asked()) return std::nullopt;
+  if (solver.getObjValue() >= limits.cutoff) return std::nullopt;
+
+  CbcModel model(solver);
+  model.passInMessageHandler(&silent);
+  model.setLogLevel(0);
+  SetUpCbc(model, task.parameters, !mip.sets.empty());
+  model.setMaximumNodes(limits.nodes);
+  model.setUseElapsedTime(true);
+  model.setMaximumSeconds(std::max(0.0, std::min(limits.seconds, task.stop.Remaining())));
+  AddSets(model, mip.sets);
+  if (std::isfinite(limits.cutoff)) model.setCutoff(limits.cutoff);
+  tick = [&](ClpSimplex const*) {
+    if (task.stop.Asked()) model.sayEventHappened();
+  };
+  model.branchAndBound();
+  if (model.bestSolution() == nullptr) return std::nullopt;
+  return std::vector<double>(model.bestSolution(), model.bestSolution() + linear.ColCount());
+}
+
+}  // namespace vorqsolver

@@ -1,0 +1,216 @@
+// The relaxation of a search tree over Clp.
+#include "solver/engines/tree_relaxation.hpp"
+
+#include <CoinPackedVector.hpp>
+#include <OsiCuts.hpp>
+#include <algorithm>
+#include <utility>
+
+#include "solver/engines/linear_model.hpp"
+
+namespace vorqsolver {
+
+namespace {
+
+// A row that was slack in so many solves in a row may go, once there are more than a few.
+constexpr int kIdleSolves = 40;
+constexpr std::size_t kFewRows = 50;
+
+}  // namespace
+
+TreeRelaxation::TreeRelaxation(SolveTask const& task, MipModel const& mip, CutPool& pool,
+                               IterationWatch::Report const& tick)
+    : task_(task), pool_(pool), tick_(tick), rootLower_(mip.linear.lower), rootUpper_(mip.linear.upper) {
+  auto const& linear = mip.linear;
+  Control(solver_);
+  solver_.loadProblem(linear.Matrix(), linear.lower.data(), linear.upper.data(), linear.cost.data(),
+                      linear.rowLower.data(), linear.rowUpper.data());
+  solver_.setObjSense(1.0);
+  solver_.setDblParam(OsiPrimalTolerance, 0.1 * task.parameters.Dbl(DblParam::kFeasTol));
+  solver_.setDblParam(OsiDualTolerance, 0.1 * task.parameters.Dbl(DblParam::kDualTol));
+  for (int col = 0; col < linear.ColCount(); ++col) {
+    if (mip.isInteger[col]) solver_.setInteger(col);
+  }
+  baseRows_ = solver_.getNumRows();
+}
+
+void TreeRelaxation::Control(OsiClpSolverInterface& solver) {
+  solver.passInMessageHandler(&silent_);
+  solver.setHintParam(OsiDoReducePrint, true, OsiHintTry);
+  auto* simplex = solver.getModelPtr();
+  simplex->passInMessageHandler(&silent_);
+  simplex->setLogLevel(0);
+  IterationWatch const watch(task_.stop, tick_);
+  simplex->passInEventHandler(&watch);
+}
+
+std::unique_ptr<OsiClpSolverInterface> TreeRelaxation::Copy() {
+  auto copy = std::make_unique<OsiClpSolverInterface>(solver_);
+  Control(*copy);
+  return copy;
+}
+
+TreeRelaxation::Outcome TreeRelaxation::Read() {
+  iterations_ += solver_.getIterationCount();
+  if (task_.stop.Reason() != SolveStatus::kUnstarted) return Outcome::kStopped;
+  if (solver_.isProvenOptimal()) return Outcome::kOptimal;
+  if (solver_.isProvenDualInfeasible()) return Outcome::kUnbounded;
+  return solver_.isProvenPrimalInfeasible() ? Outcome::kInfeasible : Outcome::kFailed;
+}
+
+TreeRelaxation::Outcome TreeRelaxation::Solve() {
+  if (isSolved_) {
+    solver_.resolve();
+  } else {
+    solver_.initialSolve();
+  }
+  auto outcome = Read();
+  if (isSolved_ && (outcome == Outcome::kFailed || outcome == Outcome::kUnbounded)) {
+    // From the slack basis it may go better.
+    CoinWarmStartBasis slack;
+    slack.setSize(solver_.getNumCols(), solver_.getNumRows());
+    for (int row = 0; row < solver_.getNumRows(); ++row) slack.setArtifStatus(row, CoinWarmStartBasis::basic);
+    for (int col = 0; col < solver_.getNumCols(); ++col) slack.setStructStatus(col, CoinWarmStartBasis::atLowerBound);
+    solver_.setWarmStart(&slack);
+    solver_.initialSolve();
+    outcome = Read();
+  }
+  if (outcome != Outcome::kOptimal) return outcome;
+  isSolved_ = true;
+  objective_ = solver_.getObjValue();
+  values_.assign(solver_.getColSolution(), solver_.getColSolution() + solver_.getNumCols());
+  return outcome;
+}
+
+TreeRelaxation::Trial TreeRelaxation::Try(std::span<BoundChange const> changes, int iterations) {
+  std::vector<BoundChange> back;
+  back.reserve(changes.size());
+  for (auto const& change : changes) back.push_back({change.col, Lower(change.col), Upper(change.col)});
+  std::unique_ptr<CoinWarmStart> const basis(solver_.getWarmStart());
+  int usual = 0;
+  solver_.getIntParam(OsiMaxNumIteration, usual);
+  Change(changes);
+  solver_.setIntParam(OsiMaxNumIteration, iterations);
+  solver_.resolve();
+  Trial const trial{Read(), solver_.getObjValue()};
+  solver_.setIntParam(OsiMaxNumIteration, usual);
+  Change(back);
+  solver_.setWarmStart(basis.get());
+  return trial;
+}
+
+void TreeRelaxation::SetRootBounds(int col, double lower, double upper) {
+  rootLower_[col] = lower;
+  rootUpper_[col] = upper;
+  solver_.setColBounds(col, lower, upper);
+}
+
+void TreeRelaxation::MoveTo(std::span<BoundChange const> changes) {
+  solver_.setColLower(rootLower_.data());
+  solver_.setColUpper(rootUpper_.data());
+  Change(changes);
+}
+
+void TreeRelaxation::Change(std::span<BoundChange const> changes) {
+  for (auto const& [col, lower, upper] : changes) {
+    solver_.setColBounds(col, std::max(lower, rootLower_[col]), std::min(upper, rootUpper_[col]));
+  }
+}
+
+std::shared_ptr<CoinWarmStartBasis> TreeRelaxation::Basis() const {
+  std::unique_ptr<CoinWarmStart> start(solver_.getWarmStart());
+  auto* basis = dynamic_cast<CoinWarmStartBasis*>(start.get());
+  if (basis == nullptr) return nullptr;
+  start.release();
+  return std::shared_ptr<CoinWarmStartBasis>(basis);
+}
+
+void TreeRelaxation::SetBasis(CoinWarmStartBasis const& basis) {
+  int const known = basis.getNumArtificial();
+  if (known == solver_.getNumRows()) {
+    solver_.setWarmStart(&basis);
+    return;
+  }
+  CoinWarmStartBasis extended(basis);
+  extended.resize(solver_.getNumRows(), solver_.getNumCols());
+  for (int row = known; row < solver_.getNumRows(); ++row) extended.setArtifStatus(row, CoinWarmStartBasis::basic);
+  solver_.setWarmStart(&extended);
+}
+
+void TreeRelaxation::AddFromPool(std::span<int const> entries) {
+  for (int const entry : entries) {
+    auto const& row = pool_[entry].row;
+    CoinPackedVector packed;
+    for (auto const& [col, value] : row.terms) packed.insert(col, value);
+    solver_.addRow(packed, ToEngine(row.lower), ToEngine(row.upper));
+    pool_.SetActive(entry, true);
+    added_.push_back({entry});
+  }
+}
+
+bool TreeRelaxation::AddCuts(OsiCuts const& cuts, std::size_t limit) {
+  constexpr double kLeastViolation = 1e-4;
+  bool hasNew = false;
+  for (int k = 0; k < cuts.sizeColCuts(); ++k) {
+    auto const* bounds = cuts.colCutPtr(k);
+    auto const tighten = [&](CoinPackedVector const& given, bool isUpper) {
+      for (int place = 0; place < given.getNumElements(); ++place) {
+        int const col = given.getIndices()[place];
+        double const value = given.getElements()[place];
+        double const lower = isUpper ? rootLower_[col] : std::max(rootLower_[col], value);
+        double const upper = isUpper ? std::min(rootUpper_[col], value) : rootUpper_[col];
+        if (lower == rootLower_[col] && upper == rootUpper_[col]) continue;
+        SetRootBounds(col, lower, upper);
+        hasNew = true;
+      }
+    };
+    tighten(bounds->lbs(), false);
+    tighten(bounds->ubs(), true);
+  }
+  std::vector<std::pair<double, int>> violated;
+  for (int k = 0; k < cuts.sizeRowCuts(); ++k) {
+    auto const* cut = cuts.rowCutPtr(k);
+    double const norm = cut->row().twoNorm();
+    double const violation = norm > 0.0 ? cut->violated(values_.data()) / norm : 0.0;
+    if (violation > kLeastViolation) violated.emplace_back(-violation, k);
+  }
+  std::ranges::sort(violated);
+  if (violated.size() > limit) violated.resize(limit);
+  for (auto const& [violation, k] : violated) {
+    auto const* cut = cuts.rowCutPtr(k);
+    solver_.addRow(cut->row(), cut->lb(), cut->ub());
+    added_.push_back({-1});
+  }
+  return hasNew || !violated.empty();
+}
+
+std::vector<int> TreeRelaxation::IdleRows() {
+  auto const* simplex = solver_.getModelPtr();
+  std::vector<int> idle;
+  for (std::size_t k = 0; k < added_.size(); ++k) {
+    int const row = baseRows_ + static_cast<int>(k);
+    bool const isSlack = simplex->getRowStatus(row) == ClpSimplex::basic;
+    added_[k].idle = isSlack ? added_[k].idle + 1 : 0;
+    if (added_[k].idle > kIdleSolves) idle.push_back(row);
+  }
+  if (idle.size() < kFewRows || 3 * idle.size() < added_.size()) idle.clear();
+  return idle;
+}
+
+void TreeRelaxation::DeleteRows(std::vector<int> const& rows) {
+  if (rows.empty()) return;
+  solver_.deleteRows(static_cast<int>(rows.size()), rows.data());
+  std::size_t next = 0;
+  std::size_t kept = 0;
+  for (std::size_t k = 0; k < added_.size(); ++k) {
+    if (next < rows.size() && rows[next] == baseRows_ + static_cast<int>(k)) {
+      if (added_[k].poolEntry >= 0) pool_.SetActive(added_[k].poolEntry, false);
+      ++next;
+    } else {
+      added_[kept++] = added_[k];
+    }
+  }
+  added_.resize(kept);
+}
+
+}  // namespace vorqsolver
