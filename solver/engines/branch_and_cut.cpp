@@ -60,6 +60,7 @@ class BranchAndCut {
   void AddToPool(SideRows const& rows, CutPool::Kind kind);
   bool SolveRoot();
   void Bound();
+  void Unbound();
   void TakeStarts();
   void RunTree();
   bool IsAtLimit();
@@ -95,6 +96,7 @@ class BranchAndCut {
   double current_ = kNone;          // the bound of the node at work
   double lost_ = kNone;             // the best bound of nodes that the engine could not solve
   bool isBoxed_ = false;
+  std::vector<BoundChange> unboxed_;  // the bounds that the box took the place of
   bool isAtNodeLimit_ = false;
   int nodes_ = 0;
   int nextDive_ = 0;
@@ -158,9 +160,24 @@ void BranchAndCut::Bound() {
   isBoxed_ = true;
   auto& linear = mip_.linear;
   for (int col = 0; col < linear.ColCount(); ++col) {
-    linear.lower[col] = std::max(linear.lower[col], std::min(-kBox, linear.upper[col]));
-    linear.upper[col] = std::min(linear.upper[col], std::max(kBox, linear.lower[col]));
-    relaxation_.SetRootBounds(col, linear.lower[col], linear.upper[col]);
+    double const lower = std::max(linear.lower[col], std::min(-kBox, linear.upper[col]));
+    double const upper = std::min(linear.upper[col], std::max(kBox, linear.lower[col]));
+    if (lower == linear.lower[col] && upper == linear.upper[col]) continue;
+    unboxed_.push_back({col, linear.lower[col], linear.upper[col]});
+    linear.lower[col] = lower;
+    linear.upper[col] = upper;
+    relaxation_.SetRootBounds(col, lower, upper);
+  }
+}
+
+// Rows that came may bound the relaxation: where it stays off the box's border, the box is needed no more.
+void BranchAndCut::Unbound() {
+  if (std::ranges::any_of(relaxation_.Values(), [](double v) { return std::abs(v) >= 0.5 * kBox; })) return;
+  isBoxed_ = false;
+  for (auto const& [col, lower, upper] : unboxed_) {
+    mip_.linear.lower[col] = lower;
+    mip_.linear.upper[col] = upper;
+    relaxation_.SetRootBounds(col, lower, upper);
   }
 }
 
@@ -180,7 +197,7 @@ void BranchAndCut::TakeStarts() {
       if (isMended && (mode == kFullOnly || mode == kNoRepair)) values.reset();
     }
     auto verdict = values ? solutions_.Judge(*values, 'S') : Verdict::kRefused;
-    if (verdict == Verdict::kCutOff) verdict = solutions_.JudgeCompleted(*values, 'S');
+    if (values && verdict != Verdict::kAccepted) verdict = solutions_.JudgeCompleted(*values, 'S');
     solutions_.TakeOffers();
     if (verdict == Verdict::kAccepted) {
       task_.log.Print("MIP start %d: accepted, best objective so far %.9e", number,
@@ -192,7 +209,11 @@ void BranchAndCut::TakeStarts() {
 }
 
 double BranchAndCut::LowerBound() const {
+  // Nodes that can lead to nothing better than the incumbent are gone.
   double bound = std::min(current_, lost_);
+  if (!solutions_.Incumbents().IsEmpty()) {
+    bound = std::min(bound, EngineValue(solutions_.Incumbents().Best().objective));
+  }
   if (next_) bound = std::min(bound, next_->bound);
   if (!tree_.IsEmpty()) bound = std::min(bound, tree_.BestBound());
   return bound;
@@ -226,8 +247,7 @@ void BranchAndCut::RunTree() {
     if (Process(node) == NodeEnd::kStopped) tree_.Push(std::move(node));
     current_ = kNone;
     tree_.Prune(solutions_.Cutoff());
-    double const bound = LowerBound();
-    progress_.Update(nodes_, OpenNodes(), std::min(bound, solutions_.Cutoff()));
+    progress_.Update(nodes_, OpenNodes(), LowerBound());
     progress_.Tick();
   }
 }
@@ -264,6 +284,7 @@ BranchAndCut::NodeEnd BranchAndCut::Process(SearchNode& node) {
       return NodeEnd::kDone;
     }
     if (isFirst && std::isfinite(inherited)) branching_.Learn(node.origin, relaxation_.Objective() - inherited);
+    if (isRoot && isBoxed_) Unbound();
     node.bound = current_ = std::max(node.bound, relaxation_.Objective());
     if (node.bound >= solutions_.Cutoff()) return NodeEnd::kDone;
     bool const isIntegral = branching_.IsIntegral(relaxation_.Values()) && branching_.SetsHold(relaxation_.Values());
@@ -300,11 +321,12 @@ std::optional<BranchAndCut::NodeEnd> BranchAndCut::TakeIntegral(SearchNode& node
   if (verdict == Verdict::kCutOff && AddViolated()) return std::nullopt;
   if (task_.stop.Asked()) return NodeEnd::kStopped;
   if (node.bound >= solutions_.Cutoff()) return NodeEnd::kDone;
-  // Within the tolerances of the engine it is a solution, and not within those of the problem.
+  // Within the tolerances of the engine it is a solution, and not within those of the problem or of the callback.
   verdict = solutions_.JudgeCompleted(relaxation_.Values(), '*');
   solutions_.TakeOffers();
   if (task_.stop.Asked()) return NodeEnd::kStopped;
-  if (node.bound >= solutions_.Cutoff()) return NodeEnd::kDone;
+  constexpr double kRounding = 1e-7;
+  if (node.bound >= solutions_.Cutoff() - kRounding * std::max(1.0, std::abs(node.bound))) return NodeEnd::kDone;
   auto choice = branching_.ChooseAmongIntegral(relaxation_);
   if (choice) return Split(node, std::move(*choice));
   if (verdict != Verdict::kAccepted) lost_ = std::min(lost_, node.bound);
@@ -379,7 +401,7 @@ void BranchAndCut::Dive(SearchNode const& node) {
     }
     if (fractional.empty()) {
       auto const verdict = solutions_.Judge(values, 'H');
-      if (verdict == Verdict::kRefused) solutions_.JudgeCompleted(values, 'H');
+      if (verdict == Verdict::kRefused || verdict == Verdict::kImprecise) solutions_.JudgeCompleted(values, 'H');
       solutions_.TakeOffers();
       if (verdict == Verdict::kCutOff) continue;
       return;

@@ -45,7 +45,8 @@ bool IsSame(LinearRow const& left, LinearRow const& right) {
          });
 }
 
-// The distance of the row's activity to its sides, against the size of the numbers involved.
+}  // namespace
+
 double Violation(LinearRow const& row, std::span<double const> point) {
   double activity = 0.0;
   double size = 1.0;
@@ -61,8 +62,6 @@ double Violation(LinearRow const& row, std::span<double const> point) {
   }
   return violation;
 }
-
-}  // namespace
 
 void CutPool::Add(LinearRow row, Kind kind, Source source) {
   row.terms = Merged(std::move(row.terms));

@@ -11,6 +11,9 @@
 
 namespace vorqsolver {
 
+// The distance of the row's activity to its sides, against the size of the numbers involved.
+double Violation(LinearRow const& row, std::span<double const> point);
+
 class CutPool {
  public:
   enum class Kind : char { kLazyConstraint, kUserCut };

@@ -17,7 +17,8 @@ namespace {
 
 constexpr double kNone = std::numeric_limits<double>::infinity();
 constexpr std::size_t kRemembered = 4;
-constexpr int kRounds = 50;  // of solving a completed candidate again with the rows that cut it off
+constexpr double kObjection = 1e-9;  // what a callback may take for a violation
+constexpr int kRounds = 50;          // of solving a completed candidate again with the rows that cut it off
 
 }  // namespace
 
@@ -58,8 +59,7 @@ void SearchSolutions::Call(int context) {
   if (task_.callback == nullptr || !task_.callback->Wants(context)) return;
   state_.seconds = task_.stop.Elapsed();
   state_.solutions = static_cast<int>(incumbents_.Pool().size());
-  state_.lazyConstraints = pool_.Count(CutPool::Kind::kLazyConstraint);
-  state_.userCuts = pool_.Count(CutPool::Kind::kUserCut);
+  CountRows();
   if (!incumbents_.IsEmpty()) {
     state_.incumbent = incumbents_.Best().values;
     state_.bestObjective = incumbents_.Best().objective;
@@ -90,7 +90,7 @@ bool SearchSolutions::IsFeasible(std::span<double const> values) const {
   return CheckSolution(task_.data, values).Holds(task_.parameters) && pool_.Accepts(values);
 }
 
-Verdict SearchSolutions::Judge(std::span<double const> values, char mark) {
+Verdict SearchSolutions::Judge(std::span<double const> values, char mark, bool isExact) {
   auto const candidate = Rounded(values);
   if (!pool_.Accepts(candidate)) return Verdict::kCutOff;
   if (!CheckSolution(task_.data, candidate).Holds(task_.parameters)) return Verdict::kRefused;
@@ -98,9 +98,11 @@ Verdict SearchSolutions::Judge(std::span<double const> values, char mark) {
   if (EngineValue(objective) >= cutoff_) return Verdict::kRefused;
   state_.candidate = candidate;
   state_.candidateObjective = objective;
+  isObjected_ = false;
   Call(VORQ_CONTEXT_CANDIDATE);
   state_.candidate = {};
   if (!pool_.Accepts(candidate)) return Verdict::kCutOff;
+  if (isObjected_ && !isExact) return Verdict::kImprecise;
   Install(candidate, objective, mark);
   return Verdict::kAccepted;
 }
@@ -153,7 +155,7 @@ Verdict SearchSolutions::JudgeCompleted(std::span<double const> values, char mar
     if (!point) return Verdict::kRefused;
     if (EngineValue(ObjectiveOf(task_.data, *point)) >= cutoff_) return Verdict::kRefused;
     int const known = pool_.Size();
-    auto const verdict = Judge(*point, mark);
+    auto const verdict = Judge(*point, mark, true);
     if (verdict != Verdict::kCutOff) return verdict;
     if (pool_.Size() == known) return Verdict::kRefused;
   }
@@ -209,12 +211,22 @@ std::optional<std::vector<double>> SearchSolutions::Complete(std::span<double co
   return std::nullopt;
 }
 
+void SearchSolutions::CountRows() {
+  state_.lazyConstraints = pool_.Count(CutPool::Kind::kLazyConstraint);
+  state_.userCuts = pool_.Count(CutPool::Kind::kUserCut);
+}
+
 void SearchSolutions::TakeLazyConstraints(std::vector<LinearRow> rows) {
-  for (auto& row : rows) pool_.Add(std::move(row), CutPool::Kind::kLazyConstraint, CutPool::Source::kCallback);
+  for (auto& row : rows) {
+    isObjected_ |= !state_.candidate.empty() && Violation(row, state_.candidate) > kObjection;
+    pool_.Add(std::move(row), CutPool::Kind::kLazyConstraint, CutPool::Source::kCallback);
+  }
+  CountRows();
 }
 
 void SearchSolutions::TakeUserCuts(std::vector<LinearRow> rows) {
   for (auto& row : rows) pool_.Add(std::move(row), CutPool::Kind::kUserCut, CutPool::Source::kCallback);
+  CountRows();
 }
 
 std::optional<double> SearchSolutions::OfferSolution(std::span<double const> values) {
@@ -247,7 +259,8 @@ void SearchSolutions::TakeOffers() {
   while (!queue_.empty()) {
     auto const values = std::move(queue_.front());
     queue_.pop_front();
-    if (Judge(values, 'C') == Verdict::kCutOff) JudgeCompleted(values, 'C');
+    auto const verdict = Judge(values, 'C');
+    if (verdict == Verdict::kCutOff || verdict == Verdict::kImprecise) JudgeCompleted(values, 'C');
   }
 }
 

@@ -17,9 +17,10 @@
 namespace vorqsolver {
 
 enum class Verdict {
-  kAccepted,  // the new incumbent
-  kCutOff,    // it violates rows of the pool
-  kRefused,   // it does not solve the problem, or is no better than the incumbent
+  kAccepted,   // the new incumbent
+  kCutOff,     // it violates rows of the pool
+  kImprecise,  // the callback objects to it for less than the tolerances
+  kRefused,    // it does not solve the problem, or is no better than the incumbent
 };
 
 class SearchSolutions : public RunningSearch {
@@ -35,7 +36,7 @@ class SearchSolutions : public RunningSearch {
   void ShowRelaxation(std::span<double const> values, double objective);
 
   // `values` has the columns of the problem first; integers are rounded. `mark` as in MipProgress.
-  Verdict Judge(std::span<double const> values, char mark);
+  Verdict Judge(std::span<double const> values, char mark) { return Judge(values, mark, false); }
 
   // The same for a point with good values of what is discrete: the rest is solved anew, and again with each row that
   // cuts it off.
@@ -65,6 +66,9 @@ class SearchSolutions : public RunningSearch {
   std::optional<double> OfferSolution(std::span<double const> values) override;
 
  private:
+  // With `isExact` the point is as precise as it can be.
+  Verdict Judge(std::span<double const> values, char mark, bool isExact);
+
   struct Offer {
     std::vector<double> given;
     int lazyConstraints;  // that were known when it was completed
@@ -72,6 +76,7 @@ class SearchSolutions : public RunningSearch {
   };
 
   void Call(int context);
+  void CountRows();
   void Install(std::vector<double> const& values, double objective, char mark);
   double EngineValue(double objective) const { return sign_ * (objective - task_.data.objective.constant); }
   double ObjectiveStep() const;
@@ -90,7 +95,8 @@ class SearchSolutions : public RunningSearch {
   double sign_;
   double step_;  // the objective of any two solutions differs by a multiple; 0 where nothing is known
   double cutoff_;
-  std::vector<Offer> offers_;              // the last few, since callers repeat them
+  bool isObjected_ = false;    // whether a lazy constraint came that the candidate violates, be it ever so little
+  std::vector<Offer> offers_;  // the last few, since callers repeat them
   std::deque<std::vector<double>> queue_;  // completed offers to be judged
 };
 
