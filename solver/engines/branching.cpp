@@ -9,9 +9,10 @@ namespace vorqsolver {
 
 namespace {
 
-constexpr int kTrialIterations = 60;
-constexpr std::size_t kTrials = 8;  // columns tried at a node
-constexpr int kReliable = 4;        // branches after which no more trials are made
+constexpr int kTrialIterations = 40;
+constexpr int kFreeIterations = 2000;  // for all trials; beyond, they may be half of all
+constexpr std::size_t kTrials = 8;     // columns tried at a node
+constexpr int kReliable = 4;           // branches after which no more trials are made
 constexpr double kLeastScore = 1e-6;
 
 double Product(double down, double up) {
@@ -132,7 +133,7 @@ double Branching::Try(TreeRelaxation& relaxation, BranchChoice& choice, double c
   double const before = relaxation.Objective();
   double gains[2] = {};
   for (bool const isUp : {false, true}) {
-    auto const trial = relaxation.Try(isUp ? choice.up : choice.down, kTrialIterations);
+    auto const trial = relaxation.Try(isUp ? choice.up : choice.down);
     bool const isSolved = trial.outcome == TreeRelaxation::Outcome::kOptimal;
     bool const isEmpty =
         trial.outcome == TreeRelaxation::Outcome::kInfeasible || (isSolved && trial.objective >= cutoff);
@@ -150,8 +151,10 @@ BranchChoice Branching::Choose(TreeRelaxation& relaxation, double cutoff) {
   auto const values = relaxation.Values();
   auto const candidates = Candidates(values);
   if (candidates.empty()) return SplitSet(values);
-  BranchChoice best = SplitColumn(relaxation, candidates.front().col, candidates.front().value);
-  if (IsReliable(best.col)) return best;
+  auto best = SplitColumn(relaxation, candidates.front().col, candidates.front().value);
+  bool const pays = relaxation.TrialIterations() < kFreeIterations + relaxation.Iterations() / 2;
+  if (!pays || IsReliable(best.col)) return best;
+  relaxation.BeginTrials(kTrialIterations);
   double bestScore = -1.0;
   std::size_t trials = 0;
   for (auto const& candidate : candidates) {
@@ -162,11 +165,13 @@ BranchChoice Branching::Choose(TreeRelaxation& relaxation, double cutoff) {
       ++trials;
       score = Try(relaxation, choice, cutoff);
     }
-    if (choice.downIsEmpty || choice.upIsEmpty) return choice;
-    if (score <= bestScore) continue;
+    bool const isSettled = choice.downIsEmpty || choice.upIsEmpty;
+    if (!isSettled && score <= bestScore) continue;
     bestScore = score;
     best = std::move(choice);
+    if (isSettled) break;
   }
+  relaxation.EndTrials();
   return best;
 }
 

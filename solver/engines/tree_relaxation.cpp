@@ -82,21 +82,27 @@ TreeRelaxation::Outcome TreeRelaxation::Solve() {
   return outcome;
 }
 
-TreeRelaxation::Trial TreeRelaxation::Try(std::span<BoundChange const> changes, int iterations) {
+void TreeRelaxation::BeginTrials(int iterations) {
+  trialBasis_.reset(solver_.getWarmStart());
+  solver_.setIntParam(OsiMaxNumIterationHotStart, iterations);
+  solver_.markHotStart();
+}
+
+TreeRelaxation::Trial TreeRelaxation::Try(std::span<BoundChange const> changes) {
   std::vector<BoundChange> back;
   back.reserve(changes.size());
   for (auto const& change : changes) back.push_back({change.col, Lower(change.col), Upper(change.col)});
-  std::unique_ptr<CoinWarmStart> const basis(solver_.getWarmStart());
-  int usual = 0;
-  solver_.getIntParam(OsiMaxNumIteration, usual);
   Change(changes);
-  solver_.setIntParam(OsiMaxNumIteration, iterations);
-  solver_.resolve();
+  solver_.solveFromHotStart();
+  trialIterations_ += solver_.getIterationCount();
   Trial const trial{Read(), solver_.getObjValue()};
-  solver_.setIntParam(OsiMaxNumIteration, usual);
   Change(back);
-  solver_.setWarmStart(basis.get());
   return trial;
+}
+
+void TreeRelaxation::EndTrials() {
+  solver_.unmarkHotStart();
+  solver_.setWarmStart(trialBasis_.get());
 }
 
 void TreeRelaxation::SetRootBounds(int col, double lower, double upper) {

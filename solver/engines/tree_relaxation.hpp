@@ -35,12 +35,16 @@ class TreeRelaxation {
   double Objective() const { return objective_; }
   std::span<double const> Values() const { return values_; }
 
-  // Solves with further changes for some iterations, and goes back to where it was.
+  // Solves with further changes for some iterations, each time from where it was at the begin of the trials; the end of
+  // the trials goes back there.
   struct Trial {
     Outcome outcome = Outcome::kFailed;
     double objective = 0.0;
   };
-  Trial Try(std::span<BoundChange const> changes, int iterations);
+  void BeginTrials(int iterations);
+  Trial Try(std::span<BoundChange const> changes);
+  void EndTrials();
+  int TrialIterations() const { return trialIterations_; }
 
   double Lower(int col) const { return solver_.getColLower()[col]; }
   double Upper(int col) const { return solver_.getColUpper()[col]; }
@@ -93,6 +97,8 @@ class TreeRelaxation {
   double objective_ = 0.0;
   bool isSolved_ = false;
   int iterations_ = 0;
+  int trialIterations_ = 0;
+  std::unique_ptr<CoinWarmStart> trialBasis_;
 };
 
 }  // namespace vorqsolver
