@@ -500,7 +500,7 @@ std::string BranchAndCutEngine::Version() const {
 }
 
 bool BranchAndCutEngine::Supports(ProblemClass const& what) const {
-  return what.IsLinear() && what.dynamic;
+  return what.IsLinear() && what.IsDynamic();
 }
 
 SolveResult BranchAndCutEngine::Solve(SolveTask const& task) const {

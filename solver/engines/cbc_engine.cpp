@@ -472,7 +472,7 @@ std::string CbcEngine::Version() const {
 }
 
 bool CbcEngine::Supports(ProblemClass const& what) const {
-  return what.IsLinear() && !what.dynamic;
+  return what.IsLinear() && !what.IsDynamic();
 }
 
 SolveResult CbcEngine::Solve(SolveTask const& task) const {

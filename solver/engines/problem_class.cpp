@@ -9,7 +9,8 @@ namespace vorqsolver {
 
 ProblemClass ProblemClass::Relaxed() const {
   ProblemClass relaxed = *this;
-  relaxed.integers = relaxed.semicontinuous = relaxed.sos = relaxed.indicators = relaxed.dynamic = false;
+  relaxed.integers = relaxed.semicontinuous = relaxed.sos = relaxed.indicators = false;
+  relaxed.sideRows = relaxed.callback = false;
   return relaxed;
 }
 
@@ -26,7 +27,8 @@ std::string ProblemClass::Describe() const {
       {affineCones, "affine cones"},
       {psd, "PSD columns"},
       {lmi, "LMI constraints"},
-      {dynamic, "lazy constraints, user cuts or a callback"},
+      {sideRows, "lazy constraints or user cuts"},
+      {callback, "a callback"},
   };
   std::vector<char const*> present;
   for (auto const& [is, name] : parts) {
@@ -56,8 +58,7 @@ ProblemClass Classify(ProblemData const& data) {
   result.affineCones = !data.affineCones.empty();
   result.psd = !data.psdDims.empty() || !data.psdConstraints.empty();
   result.lmi = !data.lmiConstraints.empty();
-  bool const hasSideRows = data.lazyConstraints.Count() + data.userCuts.Count() > 0;
-  result.dynamic = result.IsDiscrete() && hasSideRows;
+  result.sideRows = result.IsDiscrete() && (data.lazyConstraints.Count() > 0 || data.userCuts.Count() > 0);
   return result;
 }
 

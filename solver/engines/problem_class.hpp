@@ -19,12 +19,16 @@ struct ProblemClass {
   bool affineCones = false;
   bool psd = false;
   bool lmi = false;
-  bool dynamic = false;  // lazy constraints, user cuts or a callback: rows may come while the search runs
+  bool sideRows = false;  // lazy constraints or user cuts beside discrete parts
+  bool callback = false;  // that a search over discrete parts is to call
 
   bool IsDiscrete() const { return integers || semicontinuous || sos || indicators; }
   bool IsLinear() const {
     return !(quadraticObjective || quadraticRows || cones || expCones || affineCones || psd || lmi);
   }
+
+  // Whether rows may come while the search runs.
+  bool IsDynamic() const { return sideRows || callback; }
 
   // Without integrality, SOS, indicators and semicontinuity; nothing comes during the solve then.
   ProblemClass Relaxed() const;

@@ -81,8 +81,8 @@ SolveResult Run(Problem& problem, bool relaxed, Start const& start, Clock::time_
   auto const& data = problem.data;
   CheckNoLostColumns(data);
   auto all = Classify(data);
-  bool const callsBack = all.IsDiscrete() && problem.callback.function != nullptr && problem.callback.contextMask != 0;
-  all.dynamic |= callsBack;
+  auto const& [function, mask, user] = problem.callback;
+  all.callback = all.IsDiscrete() && function != nullptr && mask != 0;
   auto const what = relaxed ? all.Relaxed() : all;
   auto const& engine = ChooseEngine(what);
   Validate(data);
@@ -91,10 +91,9 @@ SolveResult Run(Problem& problem, bool relaxed, Start const& start, Clock::time_
   if (!cause.empty()) return PlainlyInfeasible(what, cause);
   LogEngine(problem, engine, what);
   StopSignal stop(problem.interrupted, begin, problem.parameters.Dbl(DblParam::kTimeLimit));
-  auto const& [function, mask, user] = problem.callback;
   problem.callbackSession.Set(ToHandle(problem), function, mask, user);
   return engine.Solve({data, problem.parameters, start.basis, start.values, problem.starts, stop, problem.log,
-                       what.dynamic && callsBack ? &problem.callbackSession : nullptr});
+                       what.callback ? &problem.callbackSession : nullptr});
 }
 
 // True for as long as it lives.
