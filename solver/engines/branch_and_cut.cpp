@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
 #include <optional>
 #include <utility>
 
@@ -131,8 +132,8 @@ bool BranchAndCut::SolveRoot() {
   auto outcome = relaxation_.Solve();
   if (outcome == Outcome::kUnbounded) {
     // Lazy constraints may bound it.
-    std::vector<int> all;
-    for (int entry = 0; entry < pool_.Size(); ++entry) all.push_back(entry);
+    std::vector<int> all(static_cast<std::size_t>(pool_.Size()));
+    std::iota(all.begin(), all.end(), 0);
     relaxation_.AddFromPool(all);
     outcome = relaxation_.Solve();
   }
@@ -327,8 +328,7 @@ std::optional<BranchAndCut::NodeEnd> BranchAndCut::TakeIntegral(SearchNode& node
   if (task_.stop.Asked()) return NodeEnd::kStopped;
   constexpr double kRounding = 1e-7;
   if (node.bound >= solutions_.Cutoff() - kRounding * std::max(1.0, std::abs(node.bound))) return NodeEnd::kDone;
-  auto choice = branching_.ChooseAmongIntegral(relaxation_);
-  if (choice) return Split(node, std::move(*choice));
+  if (auto const choice = branching_.ChooseAmongIntegral(relaxation_)) return Split(node, *choice);
   if (verdict != Verdict::kAccepted) lost_ = std::min(lost_, node.bound);
   return NodeEnd::kDone;
 }

@@ -124,11 +124,8 @@ void TreeRelaxation::Change(std::span<BoundChange const> changes) {
 }
 
 std::shared_ptr<CoinWarmStartBasis> TreeRelaxation::Basis() const {
-  std::unique_ptr<CoinWarmStart> start(solver_.getWarmStart());
-  auto* basis = dynamic_cast<CoinWarmStartBasis*>(start.get());
-  if (basis == nullptr) return nullptr;
-  start.release();
-  return std::shared_ptr<CoinWarmStartBasis>(basis);
+  std::shared_ptr<CoinWarmStart> const start(solver_.getWarmStart());
+  return std::dynamic_pointer_cast<CoinWarmStartBasis>(start);
 }
 
 void TreeRelaxation::SetBasis(CoinWarmStartBasis const& basis) {
