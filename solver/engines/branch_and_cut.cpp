@@ -325,11 +325,13 @@ std::optional<BranchAndCut::NodeEnd> BranchAndCut::TakeIntegral(SearchNode& node
   // Within the tolerances of the engine it is a solution, and not within those of the problem or of the callback.
   verdict = solutions_.JudgeCompleted(relaxation_.Values(), '*');
   solutions_.TakeOffers();
+  if (AddViolated()) return std::nullopt;
   if (task_.stop.Asked()) return NodeEnd::kStopped;
   constexpr double kRounding = 1e-7;
   if (node.bound >= solutions_.Cutoff() - kRounding * std::max(1.0, std::abs(node.bound))) return NodeEnd::kDone;
   if (auto const choice = branching_.ChooseAmongIntegral(relaxation_)) return Split(node, *choice);
-  if (verdict != Verdict::kAccepted) lost_ = std::min(lost_, node.bound);
+  // With all integers fixed, the linear rest has the last word; but it knows only one way to satisfy the sets.
+  if (verdict != Verdict::kAccepted && !mip_.sets.empty()) lost_ = std::min(lost_, node.bound);
   return NodeEnd::kDone;
 }
 
@@ -472,13 +474,14 @@ SolveResult BranchAndCut::Finish() {
       return std::move(result_);
     }
     auto lp = solutions_.FinalLp();
-    result_.mipValues = best.values;
-    result_.mipObjective = best.objective;
+    result_.mipValues = lp.lp.values;
+    result_.mipObjective = lp.lpObjective;
     result_.lp = std::move(lp.lp);
     result_.lpObjective = lp.lpObjective;
     result_.lpStatus = lp.lpStatus;
     result_.basis = std::move(lp.basis);
     result_.pool = incumbents.Pool();
+    result_.pool.front() = {result_.mipObjective, result_.mipValues};
   }
   double bound = progress_.Bound();
   if (!incumbents.IsEmpty()) bound = std::min(bound, EngineValue(result_.mipObjective));

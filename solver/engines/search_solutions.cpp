@@ -18,7 +18,8 @@ namespace {
 constexpr double kNone = std::numeric_limits<double>::infinity();
 constexpr std::size_t kRemembered = 4;
 constexpr double kObjection = 1e-9;  // what a callback may take for a violation
-constexpr int kRounds = 50;          // of solving a completed candidate again with the rows that cut it off
+constexpr double kSame = 1e-5;
+constexpr int kRounds = 50;  // of solving a completed candidate again with the rows that cut it off
 
 }  // namespace
 
@@ -274,14 +275,18 @@ SolveResult SearchSolutions::FinalLp() const {
   SolveTask const task{task_.data, task_.parameters, noBasis, noValues, task_.starts, grace, quiet};
   auto solved = SolveLinearModel(Rest(best.values), task);
   double const difference = std::abs(solved.lpObjective - best.objective);
-  if (solved.lpStatus != SolveStatus::kOptimal || difference > 1e-6 * std::max(1.0, std::abs(best.objective))) {
+  if (solved.lpStatus != SolveStatus::kOptimal || difference > kSame * std::max(1.0, std::abs(best.objective))) {
     // The incumbent is not the best one for its integers, so there are no duals that belong to it.
     solved = SolveResult();
     solved.lpStatus = SolveStatus::kUnfinished;
   }
-  solved.lp.values = best.values;
-  solved.lp.slacks = Slacks(task_.data, best.values);
-  solved.lpObjective = best.objective;
+  // Where it is the same point but for rounding, it is the more precise one.
+  bool const isSame = std::ranges::equal(solved.lp.values, best.values, [](double a, double b) {
+    return std::abs(a - b) <= kSame * std::max({1.0, std::abs(a), std::abs(b)});
+  });
+  if (!isSame || !IsFeasible(solved.lp.values)) solved.lp.values = best.values;
+  solved.lp.slacks = Slacks(task_.data, solved.lp.values);
+  solved.lpObjective = ObjectiveOf(task_.data, solved.lp.values);
   return solved;
 }
 

@@ -57,7 +57,7 @@ class SearchSolutions : public RunningSearch {
   double Cutoff() const { return cutoff_; }
 
   // The linear problem that is left once all that is discrete stands as in the incumbent, solved; its values are the
-  // incumbent's own.
+  // incumbent's own, but for rounding.
   SolveResult FinalLp() const;
 
   SearchState const& State() const override { return state_; }
