@@ -2,8 +2,9 @@
 // records.
 //
 // Each thread takes slots from a chunk of its own, one behind the other, without a lock. A slot can be given back by
-// any thread: it knows its chunk, and the chunk counts what is still out, so that it goes back to the system with its
-// last slot. The slot that a thread took last is taken again when it is given back at once, as with a temporary handle.
+// any thread: its address tells its chunk, and the chunk counts what is still out, so that it goes back to the pool
+// with its last slot. The slot that a thread took last is taken again when it is given back at once, as with a
+// temporary handle.
 //
 // Under AddressSanitizer each slot is an allocation of its own, so that no defect is hidden.
 #pragma once
@@ -12,6 +13,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <new>
+
+#include "frame/chunk_pool.hpp"
 
 #if defined(__SANITIZE_ADDRESS__)
 #define VORQ_PLAIN_SLABS 1
@@ -43,40 +46,37 @@ class Slab {
     if (cursor.next == cursor.end) [[unlikely]] {
       if (!Refill(cursor)) return AllocateAlone();
     }
-    Slot* slot = cursor.next++;
-    slot->chunk = cursor.chunk;
-    return slot->memory;
+    return (cursor.next++)->memory;
   }
 
   static void Release(void* memory) noexcept {
-    Slot* slot = reinterpret_cast<Slot*>(static_cast<std::byte*>(memory) - offsetof(Slot, memory));
+    Slot* slot = static_cast<Slot*>(memory);
     Cursor& cursor = cursor_;
     if (slot + 1 == cursor.next) {
       cursor.next = slot;
-    } else if (slot->chunk != nullptr) {
-      GiveBack(slot->chunk, 1);
     } else {
-      ::operator delete(slot);
+      GiveBack(ChunkOf(slot), 1);
     }
   }
 
  private:
-  struct Chunk;
   struct Slot {
-    Chunk* chunk;  // null for a slot that stands alone
     alignas(kAlignment) std::byte memory[kSize];
   };
 
-  static constexpr std::size_t kChunkSize = 4096 - 2 * sizeof(void*);  // a page, with the allocator's own header
-  static constexpr std::uint32_t kSlots = (kChunkSize - sizeof(std::uint64_t)) / sizeof(Slot);
+  static constexpr std::uint32_t kSlots = (ChunkPool::kChunkSize - sizeof(std::uint64_t)) / sizeof(Slot);
 
   struct Chunk {
+    explicit Chunk(std::uint32_t count) : outstanding(count) {}
+
     // The slots that are out or not taken yet, and one for the cursor that takes from the chunk.
-    std::atomic<std::uint32_t> outstanding{kSlots + 1};
+    std::atomic<std::uint32_t> outstanding;
     Slot slots[kSlots];
   };
+  static_assert(sizeof(Chunk) <= ChunkPool::kChunkSize);
 
-  // What is left of the chunk from which this thread takes.
+  // What is left of the chunk from which this thread takes. A slot in front of `next` lies in that chunk, also where
+  // the chunk is used up.
   struct Cursor {
     Slot* next;
     Slot* end;
@@ -96,8 +96,16 @@ class Slab {
     }
   };
 
+  static Chunk* NewChunk(std::uint32_t outstanding) {
+    return new (ChunkPool::Take()) Chunk(outstanding);
+  }
+
+  static Chunk* ChunkOf(Slot* slot) {
+    return reinterpret_cast<Chunk*>(reinterpret_cast<std::uintptr_t>(slot) & ~(ChunkPool::kChunkSize - 1));
+  }
+
   static void GiveBack(Chunk* chunk, std::uint32_t count) noexcept {
-    if (chunk->outstanding.fetch_sub(count, std::memory_order_acq_rel) == count) delete chunk;
+    if (chunk->outstanding.fetch_sub(count, std::memory_order_acq_rel) == count) ChunkPool::GiveBack(chunk);
   }
 
   // Starts a chunk. False once the thread's own objects are being destroyed: nobody would give back the rest of it.
@@ -110,7 +118,7 @@ class Slab {
       // All slots have come back: the chunk starts anew.
       chunk->outstanding.store(kSlots + 1, std::memory_order_relaxed);
     } else {
-      Chunk* fresh = new Chunk;
+      Chunk* fresh = NewChunk(kSlots + 1);
       if (chunk != nullptr) GiveBack(chunk, 1);
       cursor.chunk = chunk = fresh;
     }
@@ -119,13 +127,12 @@ class Slab {
     return true;
   }
 
+  // A chunk for one slot.
   [[gnu::noinline]] static void* AllocateAlone() {
-    Slot* slot = static_cast<Slot*>(::operator new(sizeof(Slot)));
-    slot->chunk = nullptr;
-    return slot->memory;
+    return NewChunk(1)->slots[0].memory;
   }
 
-  static inline thread_local constinit Cursor cursor_{};
+  [[gnu::tls_model("initial-exec")]] static inline thread_local constinit Cursor cursor_{};
 #endif
 };
 

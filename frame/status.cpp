@@ -100,38 +100,36 @@ std::string RenderWithoutArguments(char const* text) {
 }  // namespace
 
 Status::Status(Status const& other) {
-  CopyText(other.Code(), other.text_);
+  CopyFailure(other);
 }
 
 Status& Status::operator=(Status const& other) {
-  if (this != &other) CopyText(other.Code(), other.text_);
+  if (this != &other) CopyFailure(other);
   return *this;
 }
 
 Status& Status::operator=(Status&& other) noexcept {
-  std::swap(code_, other.code_);
-  std::swap(text_, other.text_);
+  std::swap(failure_, other.failure_);
   return *this;
 }
 
-char* Status::BeginMessage() {
-  if (text_ == nullptr) text_ = new char[kTextSize];
-  std::snprintf(text_, kPrefixRoom, "(%s) ", CodeName(code_));
-  return text_ + std::strlen(text_);
+char* Status::BeginMessage(int code) {
+  if (failure_ == nullptr) failure_ = new Failure;
+  failure_->code = static_cast<std::uint32_t>(code);
+  std::snprintf(failure_->text, kPrefixRoom, "(%s) ", CodeName(failure_->code));
+  return failure_->text + std::strlen(failure_->text);
 }
 
 // A copied text is taken as a format, which is meant: the copy's text has the prefix twice.
-void Status::CopyText(int code, char const* text) {
-  code_ = static_cast<std::uint32_t>(code);
-  if (code_ == 0 || text == nullptr) return;
-  std::string const message = RenderWithoutArguments(text);
-  std::snprintf(BeginMessage(), kMessageRoom, "%s", message.c_str());
+void Status::CopyFailure(Status const& other) {
+  if (!other.Failed()) return Clear();
+  std::string const message = RenderWithoutArguments(other.Text());
+  std::snprintf(BeginMessage(other.Code()), kMessageRoom, "%s", message.c_str());
 }
 
 void SetStatus(Status& status, int code, char const* format, ...) {
-  status.code_ = static_cast<std::uint32_t>(code);
-  if (code == 0) return;
-  char* message = status.BeginMessage();
+  if (code == 0) return status.Clear();
+  char* message = status.BeginMessage(code);
   std::va_list arguments;
   va_start(arguments, format);
   std::vsnprintf(message, Status::kMessageRoom, format, arguments);

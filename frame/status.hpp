@@ -24,26 +24,36 @@ class Status {
 
   Status() = default;
   Status(Status const& other);
-  Status(Status&& other) noexcept : code_(std::exchange(other.code_, 0)), text_(std::exchange(other.text_, nullptr)) {}
+  Status(Status&& other) noexcept : failure_(std::exchange(other.failure_, nullptr)) {}
   Status& operator=(Status const& other);
   Status& operator=(Status&& other) noexcept;
-  ~Status() { delete[] text_; }
+  ~Status() { delete failure_; }
 
-  int Code() const { return static_cast<int>(code_); }
-  bool Failed() const { return code_ != 0; }
+  int Code() const { return failure_ == nullptr ? 0 : static_cast<int>(failure_->code); }
+  bool Failed() const { return failure_ != nullptr && failure_->code != 0; }
 
   // The text of the last failure, null before the first one. Valid until the next failure of this object.
-  char const* Text() const { return text_; }
+  char const* Text() const { return failure_ == nullptr ? nullptr : failure_->text; }
+
+  // What SetStatus does for code 0.
+  void Clear() {
+    if (failure_ != nullptr) failure_->code = 0;
+  }
 
  private:
   friend void SetStatus(Status& status, int code, char const* format, ...);
 
-  // The place of the message behind the prefix "(NAME) ".
-  char* BeginMessage();
-  void CopyText(int code, char const* text);
+  // Statuses are many and failures few: an item, of which each term of an expression holds one, pays one word.
+  struct Failure {
+    std::uint32_t code;
+    char text[kTextSize];
+  };
 
-  std::uint32_t code_ = 0;
-  char* text_ = nullptr;
+  // The place of the message behind the prefix "(NAME) ".
+  char* BeginMessage(int code);
+  void CopyFailure(Status const& other);
+
+  Failure* failure_ = nullptr;
 };
 
 // Records `code`; if it is not 0, also the text: the name of the code, then `format` with its arguments, cut to fit.

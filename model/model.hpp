@@ -22,6 +22,7 @@
 #include <utility>
 #include <vector>
 
+#include "frame/growth.hpp"
 #include "frame/status.hpp"
 #include "items/item_arrays.hpp"
 #include "items/lmi_expr.hpp"
@@ -325,8 +326,12 @@ class Model {
 
   // Records a solver library's code; true for success.
   bool Record(int code, char const* text) {
+    if (code == kOk) {
+      status.Clear();
+      return true;
+    }
     SetStatus(status, code, "%s", text);
-    return code == kOk;
+    return false;
   }
   bool Refuse(char const* text) { return Record(kInvalid, text); }
   // Takes over the failure of another object.
@@ -342,6 +347,7 @@ class Model {
   template <class Item, class... Dimension>
   Item& Append(std::string name, Dimension... dimension) {
     ItemTable<Item>& table = core_->Table<Item>();
+    ReserveMore(table.items, 1);
     Item& item = table.items.emplace_back(core_->prob, std::move(name), table.count, dimension...);
     ++table.count;
     return item;
@@ -357,9 +363,7 @@ class Model {
                              Dimensions const*... dimensions) {
     std::vector<Item> added;
     if (!Record(code, text)) return added;
-    std::vector<Item>& items = core_->Table<Item>().items;
-    std::size_t const needed = items.size() + names.size();
-    if (needed > items.capacity()) items.reserve(std::max(needed, 2 * items.capacity()));
+    ReserveMore(core_->Table<Item>().items, names.size());
     added.reserve(names.size());
     for (std::size_t i = 0; i < names.size(); ++i) added.push_back(Append<Item>(names[i], dimensions[i]...));
     return added;

@@ -47,6 +47,12 @@ void CheckColumns(ProblemData const& data, ColumnBatch const& batch) {
   }
 }
 
+// What has reached the names and the matrices of an addition that failed.
+void TakeBackColumns(ProblemData& data, int first) {
+  data.columns.names.Truncate(first);
+  for (auto* each : {&data.rows.matrix, &data.lazyConstraints.matrix, &data.userCuts.matrix}) each->TakeBackCols(first);
+}
+
 // Bounds of existing columns; `toBound` is ToLower or ToUpper.
 int SetBounds(VORQ_Prob* prob, int count, int const* indices, double const* values,
               std::vector<double> Columns::*bounds, double (*toBound)(char, double)) {
@@ -86,8 +92,7 @@ void AppendColumns(ProblemData& data, ColumnBatch const& batch) {
     data.lazyConstraints.matrix.AppendEmptyCols(count);
     data.userCuts.matrix.AppendEmptyCols(count);
   } catch (...) {
-    columns.names.Truncate(first);
-    for (auto* each : {&matrix, &data.lazyConstraints.matrix, &data.userCuts.matrix}) each->TakeBackCols(first);
+    TakeBackColumns(data, first);
     throw;
   }
   for (int place = 0; place < count; ++place) {
@@ -101,20 +106,37 @@ void AppendColumns(ProblemData& data, ColumnBatch const& batch) {
 
 }  // namespace vorqsolver
 
+// Models are also built column by column, so one column does not pay for the frame of a batch.
 int VORQ_AddCol(VORQ_Prob* prob, double obj, int n, int const* rows, double const* coefs, int type, double lb,
                 double ub, char const* name) {
   return Edit(prob, [&](Problem& problem) {
-    if (n > 0) Need(rows, "rows");
+    auto& data = problem.data;
+    auto& columns = data.columns;
+    auto const indices = List(n, rows, "rows");
+    auto const values = List(n, coefs, "coefs");
     char const letter = ToType(type);
-    int const begin = 0;
-    AppendColumns(problem.data, {.terms = Batch(1, &begin, &n, rows != nullptr),
-                                 .rows = rows,
-                                 .coefs = coefs,
-                                 .objs = &obj,
-                                 .types = &letter,
-                                 .lowers = &lb,
-                                 .uppers = &ub,
-                                 .names = &name});
+    CheckCoefficients({&obj, 1}, "obj");
+    CheckBounds({&lb, 1}, "lb");
+    CheckBounds({&ub, 1}, "ub");
+    CheckIndices(indices, data.rows.Count(), "Row");
+    CheckCoefficients(values, "coefs");
+    auto const text = ToName(name);
+    auto const place = columns.Count();
+    for (auto* list : {&columns.lower, &columns.upper, &columns.objective}) ReserveMore(*list, 1);
+    ReserveMore(columns.type, 1);
+    try {
+      columns.names.Set(place, text);
+      data.rows.matrix.AppendCol(indices, values);
+      data.lazyConstraints.matrix.AppendEmptyCols(1);
+      data.userCuts.matrix.AppendEmptyCols(1);
+    } catch (...) {
+      TakeBackColumns(data, place);
+      throw;
+    }
+    columns.type.push_back(letter);
+    columns.lower.push_back(ToLower(letter, lb));
+    columns.upper.push_back(ToUpper(letter, ub));
+    columns.objective.push_back(obj);
   });
 }
 

@@ -70,19 +70,30 @@ using namespace vorqsolver;
 
 namespace {
 
+// Models are also built row by row, so one row does not pay for the frame of a batch.
 template <typename Table>
 int AddRow(VORQ_Prob* prob, Table ProblemData::*table, int n, int const* cols, double const* coefs, int sense,
            double bound, double upper, char const* name) {
   return Edit(prob, [&](Problem& problem) {
-    if (n > 0) Need(cols, "cols");
+    Table& rows = problem.data.*table;
+    auto const indices = List(n, cols, "cols");
+    auto const values = List(n, coefs, "coefs");
     auto const range = ToRange(sense, bound, upper);
-    int const begin = 0;
-    AppendRows(problem.data.*table, {.terms = Batch(1, &begin, &n, cols != nullptr),
-                                     .cols = cols,
-                                     .coefs = coefs,
-                                     .lowers = &range.lower,
-                                     .uppers = &range.upper,
-                                     .names = &name});
+    CheckIndices(indices, rows.matrix.ColCount(), "Column");
+    CheckCoefficients(values, "coefs");
+    auto const text = ToName(name);
+    auto const place = rows.Count();
+    ReserveMore(rows.lower, 1);
+    ReserveMore(rows.upper, 1);
+    rows.matrix.AppendRow(indices, values);
+    try {
+      rows.names.Set(place, text);
+    } catch (...) {
+      rows.matrix.TakeBackRows(place);
+      throw;
+    }
+    rows.lower.push_back(range.lower);
+    rows.upper.push_back(range.upper);
   });
 }
 

@@ -71,16 +71,16 @@ void SparseMatrix::Reserve(std::size_t rows, std::size_t elements) {
 }
 
 void SparseMatrix::AppendRow(std::span<int const> cols, std::span<double const> values) {
+  if (!HasDuplicates(cols, colCount_)) return AppendDistinct(cols, values);
+  Merged const merged = SumDuplicates(cols, values);
+  AppendDistinct(merged.indices, merged.values);
+}
+
+void SparseMatrix::AppendDistinct(std::span<int const> cols, std::span<double const> values) {
   ReserveMore(begins_, 1);
   if (IsLoose()) {
     ReserveMore(lengths_, 1);
     ReserveMore(capacities_, 1);
-  }
-  Merged merged;
-  if (HasDuplicates(cols, colCount_)) {
-    merged = SumDuplicates(cols, values);
-    cols = merged.indices;
-    values = merged.values;
   }
   ReserveMore(indices_, cols.size());
   ReserveMore(values_, cols.size());

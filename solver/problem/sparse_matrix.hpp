@@ -81,6 +81,7 @@ class SparseMatrix {
   };
 
   std::size_t Length(int row) const;
+  void AppendDistinct(std::span<int const> cols, std::span<double const> values);
   bool IsLoose() const { return !lengths_.empty(); }
   void MergePending() const;
   void Rebuild() const;

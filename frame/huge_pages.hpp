@@ -1,0 +1,25 @@
+// Huge pages: asking the system to back a large block by them. Filling fresh memory costs a page fault for every page,
+// which is most of what it costs to build a large model.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#ifdef __linux__
+#include <sys/mman.h>
+#endif
+
+namespace Vorq {
+
+inline constexpr std::size_t kHugePageSize = std::size_t{2} << 20;
+
+// To be called before the block is used. Where the system knows no such pages it does nothing.
+inline void AdviseHugePages([[maybe_unused]] void* memory, [[maybe_unused]] std::size_t bytes) noexcept {
+#ifdef MADV_HUGEPAGE
+  auto const begin = (reinterpret_cast<std::uintptr_t>(memory) + kHugePageSize - 1) & ~(kHugePageSize - 1);
+  auto const end = (reinterpret_cast<std::uintptr_t>(memory) + bytes) & ~(kHugePageSize - 1);
+  if (begin < end) madvise(reinterpret_cast<void*>(begin), end - begin, MADV_HUGEPAGE);
+#endif
+}
+
+}  // namespace Vorq
