@@ -5,19 +5,9 @@
 
 #include "ndarray/nd_array.hpp"
 #include "ndarray/runs.hpp"
+#include "ndarray/within_store.hpp"
 
 namespace Vorq {
-
-// The element at a flat index that may lie outside the shape: it is read by the strides, and null when its position
-// lies outside the store. A store of foreign memory has no known end.
-template <class T, int N>
-T* FindWithinStore(NdArray<T, N> const& array, std::uint64_t index) {
-  if (!array.HasElements()) return nullptr;
-  std::int64_t const position = array.GetShape().Position(index);
-  std::size_t const count = array.Store().Block()->count;
-  bool const isInside = position >= 0 && static_cast<std::uint64_t>(position) < count;
-  return isInside || count == 0 ? array.Store().Get() + position : nullptr;
-}
 
 template <class T>
 struct SteppingPointer {

@@ -52,6 +52,13 @@ class NdArray {
   // Every size 1, with a copy of `value`: the form of a failed result.
   static NdArray OneElement(T const& value) { return Filled(NDim<N>::Uniform(1), value); }
 
+  // The same with the failure of an operation.
+  static NdArray Failed(T const& value, Status failure) {
+    NdArray result = OneElement(value);
+    result.status_ = std::move(failure);
+    return result;
+  }
+
   int GetND() const { return N; }
   std::uint64_t GetDim(int axis) const { return shape_.GetDim(axis); }
   std::uint64_t GetSize() const { return shape_.GetSize(); }

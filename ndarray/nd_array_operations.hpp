@@ -7,22 +7,9 @@
 
 #include "ndarray/nd_array.hpp"
 #include "ndarray/view.hpp"
+#include "ndarray/within_store.hpp"
 
 namespace Vorq {
-
-// Whether a shape stays within a store of `count` elements. A count of 0 is foreign memory, whose end is not known.
-template <int N>
-bool StaysWithin(NDim<N> const& shape, std::size_t count) {
-  if (count == 0) return true;
-  std::int64_t low = shape.Start();
-  std::int64_t high = low;
-  for (Axis const& axis : shape.GetAxes()) {
-    if (axis.size == 0) return true;
-    std::int64_t const reach = MultiplyWrapped(static_cast<std::int64_t>(axis.size - 1), axis.stride);
-    (reach < 0 ? low : high) = AddWrapped(reach < 0 ? low : high, reach);
-  }
-  return low >= 0 && high < static_cast<std::int64_t>(count);
-}
 
 template <class T, int N>
 NdArray<T, N> NdArray<T, N>::Filled(NDim<N> const& shape, T const& value) {

@@ -43,6 +43,17 @@ NDim<N> Ones() {
   return NDim<N>::Uniform(1);
 }
 
+// Whether there is that axis; if not, the status tells.
+bool CheckAxis(Status& status, int axis, int rank) {
+  if (axis >= 0 && axis < rank) return true;
+  if (axis < 0) {
+    SetStatus(status, kInvalid, "Axis is negative (%d)", axis);
+  } else {
+    SetStatus(status, kInvalid, "Axis is out of bounds: #axis (%d) >= #ND (%d)", axis, rank);
+  }
+  return false;
+}
+
 }  // namespace
 
 template <int N>
@@ -169,14 +180,7 @@ template <int R>
 requires(R > 0) NDim<R - 1> NDim<N>::Squeeze(int axis)
 const {
   NDim<N - 1> failed = Ones<N - 1>();
-  if (axis < 0) {
-    SetStatus(failed.GetStatus(), kInvalid, "Axis is negative (%d)", axis);
-    return failed;
-  }
-  if (axis >= N) {
-    SetStatus(failed.GetStatus(), kInvalid, "Axis is out of bounds: #axis (%d) >= #ND (%d)", axis, N);
-    return failed;
-  }
+  if (!CheckAxis(failed.GetStatus(), axis, N)) return failed;
   auto const place = static_cast<std::size_t>(axis);
   if (axes_[place].size != 1) {
     SetStatus(failed.GetStatus(), kInvalid, "Dimension size at axis %d is not one (%zu)", axis,
@@ -242,6 +246,41 @@ const {
 }
 
 template <int N>
+template <int R>
+requires(R > 0) NDim<N> NDim<N>::Concat(NDim const& other, int axis)
+const {
+  NDim failed = Ones<N>();
+  if (axis < -N || axis >= N) {
+    SetStatus(failed.GetStatus(), kInvalid, "Axis %d is out of bounds for array of dimensions %d", axis, N);
+    return failed;
+  }
+  auto const place = static_cast<std::size_t>(axis < 0 ? axis + N : axis);
+  Sizes sizes = GetDims();
+  for (std::size_t k = 0; k < N; ++k) {
+    std::uint64_t const theirs = other.axes_[k].size;
+    if (k == place || sizes[k] == theirs) continue;
+    SetStatus(failed.GetStatus(), kInvalid,
+              "Along the %d-th dimension, array 1 has size [%d] and array 2 has size [%d]", static_cast<int>(k),
+              static_cast<int>(sizes[k]), static_cast<int>(theirs));
+    return failed;
+  }
+  sizes[place] += other.axes_[place].size;
+  if (sizes[place] < other.axes_[place].size) throw std::bad_array_new_length();
+  return NDim(sizes);
+}
+
+template <int N>
+template <int R>
+requires(R > 0) NDim<R - 1> NDim<N>::WithoutAxis(int axis)
+const {
+  NDim<N - 1> failed = Ones<N - 1>();
+  if (!CheckAxis(failed.GetStatus(), axis, N)) return failed;
+  typename NDim<N - 1>::Sizes sizes;
+  for (std::size_t k = 0; k + 1 < N; ++k) sizes[k] = axes_[k < static_cast<std::size_t>(axis) ? k : k + 1].size;
+  return NDim<N - 1>(sizes);
+}
+
+template <int N>
 NDim<N> NDim<N>::Apply(View const& view) const {
   Axes axes = axes_;
   auto const& operations = view.Operations();
@@ -290,6 +329,13 @@ template NDim<1> NDim<2>::Squeeze(int) const;
 template NDim<2> NDim<3>::Squeeze(int) const;
 template NDim<1> NDim<2>::Diagonal(int, int, int) const;
 template NDim<2> NDim<3>::Diagonal(int, int, int) const;
+
+template NDim<1> NDim<1>::Concat(NDim<1> const&, int) const;
+template NDim<2> NDim<2>::Concat(NDim<2> const&, int) const;
+template NDim<3> NDim<3>::Concat(NDim<3> const&, int) const;
+template NDim<0> NDim<1>::WithoutAxis(int) const;
+template NDim<1> NDim<2>::WithoutAxis(int) const;
+template NDim<2> NDim<3>::WithoutAxis(int) const;
 
 template NDim<0> CannotCast<0>(int);
 template NDim<1> CannotCast<1>(int);

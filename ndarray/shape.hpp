@@ -123,6 +123,17 @@ class NDim {
   requires(R > 1) NDim<R - 1> Diagonal(int offset, int axis1, int axis2)
   const;
 
+  // The compact shape of this and `other` one behind the other along `axis`, which counts from the end when it is
+  // negative. All other sizes must agree. Throws std::bad_array_new_length when the two together have too many.
+  template <int R = N>
+  requires(R > 0) NDim Concat(NDim const& other, int axis)
+  const;
+
+  // The compact shape of the other axes.
+  template <int R = N>
+  requires(R > 0) NDim<R - 1> WithoutAxis(int axis)
+  const;
+
   // The operations of `view` on the axes in order; operations beyond the last axis are for the caller to refuse.
   NDim Apply(View const& view) const;
 

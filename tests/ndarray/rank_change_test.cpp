@@ -73,10 +73,23 @@ TEST(ArrayDiagonal, OfRankThree) {
   EXPECT_EQ(Elements(Vorq::Diagonal(array, 1, 1, 2)), (Ints{1, 5, 7, 11}));
 }
 
-TEST(ArrayDiagonal, FailureHoldsTheSourcesFirstElement) {
+TEST(ArrayDiagonal, FailureHoldsTheSourcesFirstElementAndTheTextWithOnePrefix) {
   auto const failed = Vorq::Diagonal(OfInts<2>({1, 2}, {7, 8}), 2, 0, 1);
-  EXPECT_STREQ(failed.GetErrorMessage(), "(INVALID) (INVALID) Offset (2) is out of bounds: dimensions (2) at axis2");
+  EXPECT_STREQ(failed.GetErrorMessage(), "(INVALID) Offset (2) is out of bounds: dimensions (2) at axis2");
   EXPECT_EQ(Elements(failed), Ints{7});
+}
+
+TEST(ArrayRepeatElement, AllPositionsReadOneElement) {
+  auto repeated = Vorq::RepeatElement(7, 3);
+  EXPECT_EQ(Elements(repeated), (Ints{7, 7, 7}));
+  EXPECT_EQ(repeated.GetShape().ToString(Vorq::kStrides), "(0)");
+  repeated.Set(1, 8);
+  EXPECT_EQ(Elements(repeated), (Ints{8, 8, 8}));
+}
+
+TEST(ArrayRepeatElement, AnyNumberOfTimes) {
+  EXPECT_EQ(Vorq::RepeatElement(7, 0).GetSize(), 0U);
+  EXPECT_EQ(Vorq::RepeatElement(7, ~0ULL).Get(~0ULL - 1), 7);
 }
 
 TEST(ArrayBroadcast, StretchesWithoutACopy) {

@@ -27,6 +27,10 @@ struct Outcome {
 class OperandTest : public MatrixTest {
  public:
   using MatrixTest::ValueOf;
+  // Constraints are worth as much as variables at the same position; nothing is worth 0.
+  template <class Item>
+  requires Vorq::kIsItem<Item>
+  static double ValueOf(Item const& item) { return item.Idx() + 2.0; }
   static double ValueOf(double number) { return number; }
   static double ValueOf(long long number) { return static_cast<double>(number); }
   static double ValueOf(int number) { return number; }
@@ -87,9 +91,12 @@ class OperandTest : public MatrixTest {
   template <class Cell>
   struct Type {};
 
-  Vorq::Var Item(int number) const { return MakeVar("x" + std::to_string(number), number); }
+  Vorq::Var Item(int number) const { return MakeCell<Vorq::Var>(0, number); }
 
-  Vorq::Var MakeModelCell(Type<Vorq::Var>, int number) const { return Item(number); }
+  template <class Item>
+  requires Vorq::kIsItem<Item> Item MakeModelCell(Type<Item>, int number) const {
+    return Make<Item>("x" + std::to_string(number), number);
+  }
 
   // Explicit, lazy, or both.
   Vorq::MExpression MakeModelCell(Type<Vorq::MExpression>, int number) const {
