@@ -3,6 +3,9 @@
 //     SharedPtr<ItemRec> record = MakeShared<ItemRec>(prob, "x", 0);   // one allocation for block and object
 //     SharedPtr<double> owned(new double[n], n);                       // an owned array
 //     SharedPtr<Cell> cells = MakeSharedArray<Cell>(n);                // the same, destroyed in ascending order
+//     SharedArrayBuilder<Cell> builder(n);                             // the same, each element made in its place
+//     for (Var const& var : vars) builder.Emplace(var, 1.0);
+//     SharedPtr<Cell> terms = builder.Finish();
 //     SharedPtr<double> borrowed(callersMemory, 0);                    // not owned
 //
 // Counting is atomic, so holders may be copied and released by several threads at once; nothing else is guarded.
@@ -68,6 +71,8 @@ class SharedPtr {
   friend SharedPtr<U> MakeShared(Args&&... args);
   template <class U>
   friend SharedPtr<U> MakeSharedArray(std::size_t count);
+  template <class U>
+  friend class SharedArrayBuilder;
 
   // Block and object in one allocation.
   struct Joined : SharedBlock {
@@ -154,6 +159,49 @@ SharedPtr<T> MakeShared(Args&&... args) {
   return holder;
 }
 
+// Makes an owned array of `count` elements one by one, each where it stays. What was made is destroyed with the builder
+// when it does not come to the end.
+template <class T>
+class SharedArrayBuilder {
+ public:
+  static_assert(SharedPtr<T>::kCanJoin);
+
+  explicit SharedArrayBuilder(std::size_t count) : slots_(count == 0 ? nullptr : new Slot[count]), count_(count) {}
+  SharedArrayBuilder(SharedArrayBuilder const&) = delete;
+  SharedArrayBuilder& operator=(SharedArrayBuilder const&) = delete;
+  ~SharedArrayBuilder() { std::destroy_n(Elements(), made_); }
+
+  // Makes the next element; there must be one left to make.
+  template <class... Args>
+  T& Emplace(Args&&... args) {
+    T* const element = ::new (static_cast<void*>(slots_[made_].room)) T(std::forward<Args>(args)...);
+    ++made_;
+    return *element;
+  }
+
+  // The array, a null holder for one of no elements. Elements that were not made are default ones.
+  SharedPtr<T> Finish() {
+    SharedPtr<T> holder;
+    if (count_ == 0) return holder;
+    auto block = std::make_unique<SharedBlock>(Elements(), count_);
+    block->form = SharedForm::kSlots;
+    while (made_ < count_) Emplace();
+    static_cast<void>(slots_.release());
+    made_ = count_ = 0;
+    holder.block_ = block.release();
+    return holder;
+  }
+
+ private:
+  using Slot = typename SharedPtr<T>::Slot;
+
+  T* Elements() const { return reinterpret_cast<T*>(slots_.get()); }
+
+  std::unique_ptr<Slot[]> slots_;
+  std::size_t count_;
+  std::size_t made_ = 0;
+};
+
 // Makes `count` default elements, numbers left unset; a null holder for none.
 template <class T>
 SharedPtr<T> MakeSharedArray(std::size_t count) {
@@ -162,16 +210,7 @@ SharedPtr<T> MakeSharedArray(std::size_t count) {
     return SharedPtr<T>(new T[count], count);
   } else {
     if (count == 1) return MakeShared<T>();
-    using Slot = typename SharedPtr<T>::Slot;
-    std::unique_ptr<Slot[]> slots(new Slot[count]);
-    T* const elements = reinterpret_cast<T*>(slots.get());
-    auto block = std::make_unique<SharedBlock>(elements, count);
-    block->form = SharedForm::kSlots;
-    std::uninitialized_value_construct_n(elements, count);
-    static_cast<void>(slots.release());
-    SharedPtr<T> holder;
-    holder.block_ = block.release();
-    return holder;
+    return SharedArrayBuilder<T>(count).Finish();
   }
 }
 

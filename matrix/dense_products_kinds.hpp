@@ -16,9 +16,7 @@ struct ProductGroup;
   struct ProductGroup<OperandCells::LeftKind, OperandCells::RightKind> { \
     using Result = OperandCells::ResultKind;                             \
   };
-#define VORQ_PRODUCT_WITH_ARRAY(Numbers)
-#define VORQ_PRODUCT_OF_ARRAY(Numbers)
-#include "vorqmodel/product_groups.inc"
+#include "matrix/product_groups.inc"
 
 // The cell of the result; there is none for cells that no group combines.
 template <class Left, class Right>

@@ -22,8 +22,8 @@ enum class SideKind : std::uint32_t { kVars = 0, kLins = 1, kNone = 0xFFFFFFFF }
 // One factor of a lazy product. Only the vector that `kind` tells is in use.
 struct ProductSide {
   ProductSide() = default;
-  explicit ProductSide(NdArray<Var, 1> const& variables) : kind(SideKind::kVars), vars(variables) {}
-  explicit ProductSide(NdArray<MExpression, 1> const& cells) : kind(SideKind::kLins), lins(cells) {}
+  explicit ProductSide(StridedVector<Var> variables) : kind(SideKind::kVars), vars(std::move(variables)) {}
+  explicit ProductSide(StridedVector<MExpression> cells) : kind(SideKind::kLins), lins(std::move(cells)) {}
 
   std::uint64_t Size() const {
     return kind == SideKind::kVars ? vars.Size() : kind == SideKind::kLins ? lins.Size() : 0;
@@ -41,7 +41,11 @@ class MQExpression {
   explicit MQExpression(QuadExpr expression) : expr(std::move(expression)) {}
   // The lazy product of two vectors, each of variables or of linear cells. The sum runs over the length of the first.
   template <class First, class Second>
-  MQExpression(NdArray<First, 1> const& first, NdArray<Second, 1> const& second) : side1(first), side2(second) {}
+  MQExpression(StridedVector<First> first, StridedVector<Second> second)
+      : side1(std::move(first)), side2(std::move(second)) {}
+  template <class First, class Second>
+  MQExpression(NdArray<First, 1> const& first, NdArray<Second, 1> const& second)
+      : MQExpression(StridedVector(first), StridedVector(second)) {}
 
   // With two linear sides the products of their cells' constants count as well.
   double GetConstant() const;

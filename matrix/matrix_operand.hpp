@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <utility>
 
 #include "matrix/strided_vector.hpp"
 #include "ndarray/nd_array.hpp"
@@ -26,6 +27,13 @@ class MatrixOperand {
   // Views, no cell is copied.
   StridedVector<Cell> Row(std::uint64_t i) const { return {store_, Position(i, 0), columns_.stride, columns_.size}; }
   StridedVector<Cell> Column(std::uint64_t j) const { return {store_, Position(0, j), rows_.stride, rows_.size}; }
+
+  // Rows and columns exchanged.
+  MatrixOperand Transposed() const {
+    MatrixOperand transposed = *this;
+    std::swap(transposed.rows_, transposed.columns_);
+    return transposed;
+  }
 
   // The cell of a row and a column, and the steps to the next row and to the next column.
   Cell const* Find(std::uint64_t i, std::uint64_t j) const { return store_.Get() + Position(i, j); }

@@ -91,6 +91,23 @@ VORQMODEL_API Vorq::INdArray<int, 3>* CreateNdArrayInt3WithExData(int* data, int
 VORQMODEL_API Vorq::INdArray<long long, 1>* CreateNdArrayInt64t1WithExData(long long* data, int d0);
 VORQMODEL_API Vorq::INdArray<long long, 2>* CreateNdArrayInt64t2WithExData(long long* data, int d0, int d1);
 VORQMODEL_API Vorq::INdArray<long long, 3>* CreateNdArrayInt64t3WithExData(long long* data, int d0, int d1, int d2);
+// The products of a block with a sparse matrix A in compressed columns (Csc) or compressed rows (Csr). The name tells
+// the order of the factors: MVar1MatMultCsc is x' A with the row vector x, CscMatMultMVar1 is A x with the column
+// vector x, MVar1MatMultCscMVar1 is x' A y.
+//
+//     int beg[] = {0, 2, 3}, idx[] = {0, 2, 1};           // 3 rows and 2 columns: entries (0, 0), (2, 0) and (1, 1)
+//     double val[] = {4.0, 5.0, 6.0};
+//     Vorq::IMLinExpr<1>* rows = CscMatMultMVar1(3, beg, 3, idx, 3, val, 3, x);      // 4 x0, 6 x1, 5 x0
+//
+// `dim` is the number of rows of a Csc matrix, of columns of a Csr matrix; `beg` has `nBeg` starts, one more than there
+// are columns or rows; entry k of column or row j has its place `idx[k]` and its value `val[k]`, for k from `beg[j]` up
+// to `beg[j + 1]`. Entries may stand in any order and more than once, each gives a term of its own, also a zero. `nIdx`
+// and `nVal` are not read. With `nBeg` 0 or 1 there are no entries; arrays of which nothing is read may be null.
+//
+// A block of shape (m, n) times A of n rows and k columns has shape (m, k), and so on; a vector's axis is dropped. The
+// arrays stay with the caller and are not needed after the call. The result shares no cell with the block. Where sizes
+// do not match it has size 1 and carries the failure, such as "(INVALID) Operand 1 has a mismatch at axis 0, size 3 !=
+// 4"; likewise where an index lies outside of the matrix.
 VORQMODEL_API Vorq::IMLinExpr<1>* MVar1MatMultCsc(Vorq::IMVar<1>* x, int dim, int const* beg, int nBeg, int const* idx,
                                                   int nIdx, double const* val, int nVal);
 VORQMODEL_API Vorq::IMLinExpr<2>* MVar2MatMultCsc(Vorq::IMVar<2>* x, int dim, int const* beg, int nBeg, int const* idx,

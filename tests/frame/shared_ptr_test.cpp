@@ -239,6 +239,65 @@ TEST_F(SharedPtrTest, ThrowingElementEndsThoseBeforeIt) {
   EXPECT_THAT(ended, testing::UnorderedElementsAre(1, 2));
 }
 
+// ---- Arrays made element by element
+
+TEST_F(SharedPtrTest, BuilderMakesElementsWhereTheyStay) {
+  {
+    SharedArrayBuilder<Witness> builder(3);
+    Witness const* const first = &builder.Emplace(11);
+    builder.Emplace(12);
+    EXPECT_EQ(builder.Emplace(13).number, 13);
+    SharedPtr<Witness> const holder = builder.Finish();
+    EXPECT_EQ(holder.Get(), first);
+    EXPECT_EQ(holder.Block()->count, 3u);
+    EXPECT_EQ(holder[1].number, 12);
+    EXPECT_THAT(ended, IsEmpty());
+  }
+  EXPECT_THAT(ended, ElementsAre(11, 12, 13));
+}
+
+TEST_F(SharedPtrTest, BuilderOfNoneGivesANullHolder) {
+  EXPECT_EQ(SharedArrayBuilder<Witness>(0).Finish().Block(), nullptr);
+}
+
+TEST_F(SharedPtrTest, BuilderOfOneGivesAnOwnedElement) {
+  {
+    SharedArrayBuilder<Witness> builder(1);
+    builder.Emplace(5);
+    SharedPtr<Witness> const holder = builder.Finish();
+    EXPECT_EQ(holder.Block()->count, 1u);
+    EXPECT_EQ(holder->number, 5);
+  }
+  EXPECT_THAT(ended, ElementsAre(5));
+}
+
+TEST_F(SharedPtrTest, BuilderMakesTheRestByDefault) {
+  SharedArrayBuilder<Witness> builder(3);
+  builder.Emplace(7);
+  SharedPtr<Witness> const holder = builder.Finish();
+  EXPECT_EQ(holder[0].number, 7);
+  EXPECT_EQ(holder[2].number, 2);
+}
+
+TEST_F(SharedPtrTest, UnfinishedBuilderEndsWhatItMade) {
+  {
+    SharedArrayBuilder<Witness> builder(3);
+    builder.Emplace(1);
+    builder.Emplace(2);
+  }
+  EXPECT_THAT(ended, ElementsAre(1, 2));
+}
+
+TEST_F(SharedPtrTest, ThrowingElementOfABuilderIsNotMade) {
+  Witness::throwAt = 2;
+  {
+    SharedArrayBuilder<Witness> builder(3);
+    builder.Emplace(1);
+    EXPECT_THROW(builder.Emplace(2), std::runtime_error);
+  }
+  EXPECT_THAT(ended, ElementsAre(1));
+}
+
 // ---- Objects beside their block
 
 TEST_F(SharedPtrTest, JoinedObjectLivesAsLongAsItsBlock) {

@@ -1,0 +1,118 @@
+// What the products allocate: the store of the result, and room for the terms that are not lazy.
+#include "matrix/dense_products.hpp"
+#include "matrix/sparse_products.hpp"
+#include "tests/operators/operand_fixture.hpp"
+#include "tests/support/allocations.hpp"
+
+namespace vorqtest {
+namespace {
+
+using Vorq::MatMult;
+using Vorq::MExpression;
+using Vorq::MQExpression;
+using Vorq::NdArray;
+using Vorq::NDim;
+using Vorq::PsdExpr;
+using Vorq::SparseMatrix;
+using Vorq::SparseOrder;
+
+constexpr std::uint64_t kCells = 500;
+// The store of a result and its block.
+constexpr std::size_t kStore = 2;
+
+class ProductMemory : public OperandTest {
+ protected:
+  template <class Work>
+  static std::size_t Allocations(Work&& work) {
+    std::size_t const before = allocations;
+    auto const result = work();
+    EXPECT_EQ(result.GetLastError(), 0);
+    return allocations - before;
+  }
+};
+
+TEST_F(ProductMemory, LazyCellsAllocateNothing) {
+  auto const a = NdArray<double, 2>::Filled(NDim<2>({kCells, 20}), 1.5);
+  auto const x = MakeVars<1>({20});
+  auto const cells = MakeOperand<MExpression, 2>({kCells, 20}, 0);
+  EXPECT_EQ(Allocations([&] { return MatMult(a, x); }), kStore);
+  EXPECT_EQ(Allocations([&] { return MatMult(x, a.Transpose()); }), kStore);
+  EXPECT_EQ(Allocations([&] { return MatMult(cells, x); }), kStore);
+  EXPECT_EQ(Allocations([&] { return MatMult(cells, cells.Transpose()); }), kStore);
+}
+
+TEST_F(ProductMemory, LazyCellsHoldAFixedNumberOfBytes) {
+  auto const a = NdArray<double, 2>::Filled(NDim<2>({kCells, 300}), 1.5);
+  auto const x = MakeVars<1>({300});
+  std::size_t const before = allocatedBytes;
+  auto const product = MatMult(a, x);
+  EXPECT_LE(allocatedBytes - before, kCells * sizeof(MExpression) + 100);
+}
+
+TEST_F(ProductMemory, WholeNumbersAreConvertedIntoOneStore) {
+  auto const a = NdArray<int, 2>::Filled(NDim<2>({kCells, 20}), 1);
+  auto const x = MakeVars<2>({20, 30});
+  std::size_t const before = allocatedBytes;
+  EXPECT_EQ(Allocations([&] { return MatMult(a, x); }), 2 * kStore);
+  EXPECT_LE(allocatedBytes - before, kCells * 30 * sizeof(MExpression) + kCells * 20 * sizeof(double) + 200);
+}
+
+TEST_F(ProductMemory, ExplicitCellsAllocateEachListOnce) {
+  auto const a = NdArray<double, 2>::Filled(NDim<2>({kCells, 20}), 1.5);
+  EXPECT_LE(Allocations([&] { return MatMult(a, MakeOperand<MExpression, 1>({1}, 0).Repeat(20, 0)); }),
+            2 * kCells + 200);
+  auto const quads = MakeOperand<MQExpression, 1>({1}, 0).Repeat(20, 0);
+  EXPECT_LE(Allocations([&] { return MatMult(a, quads); }), 5 * kCells + kStore);
+}
+
+TEST_F(ProductMemory, FactorsOfZeroTakeNoRoom) {
+  auto const zeros = NdArray<double, 2>::Filled(NDim<2>({kCells, 20}), 0.0);
+  auto const cells = Vorq::MLinExpr<1>(NDim<1>({20}), MExpression(Vorq::Expr(MakeVar("x", 0), 1.0)));
+  EXPECT_EQ(Allocations([&] { return MatMult(zeros, cells); }), kStore);
+}
+
+TEST_F(ProductMemory, NumbersTakeTheResultAndATile) {
+  auto const a = NdArray<double, 2>::Filled(NDim<2>({kCells, 20}), 1.5);
+  auto const b = NdArray<int, 2>::Filled(NDim<2>({20, 30}), 1);
+  EXPECT_EQ(Allocations([&] { return MatMult(a, b); }), kStore + 1);
+}
+
+class SparseProductMemory : public ProductMemory {
+ protected:
+  // Three entries in each of kCells rows of a matrix with 20 columns.
+  SparseProductMemory() {
+    for (int i = 0; i <= static_cast<int>(kCells); ++i) beg_.push_back(3 * i);
+    for (int k = 0; k < beg_.back(); ++k) {
+      idx_.push_back(k * 7 % 20);
+      val_.push_back(k);
+    }
+  }
+
+  SparseMatrix Matrix(SparseOrder order) const {
+    return {order, 20, beg_.data(), static_cast<int>(beg_.size()), idx_.data(), val_.data()};
+  }
+
+  std::vector<int> beg_, idx_;
+  std::vector<double> val_;
+};
+
+TEST_F(SparseProductMemory, EachListOfACellIsAllocatedOnce) {
+  auto const x = MakeVars<1>({20});
+  EXPECT_EQ(Allocations([&] { return MatMult(Matrix(SparseOrder::kRows), x); }), 2 * kCells + kStore);
+  EXPECT_EQ(Allocations([&] { return MatMult(x, Matrix(SparseOrder::kColumns)); }), 2 * kCells + kStore);
+}
+
+TEST_F(SparseProductMemory, MinorVectorsTakeThreeArrays) {
+  auto const x = MakeVars<1>({kCells});
+  EXPECT_EQ(Allocations([&] { return MatMult(x, Matrix(SparseOrder::kRows)); }), 2 * 20 + kStore + 3);
+}
+
+TEST_F(SparseProductMemory, QuadraticFormAllocatesEachListOnce) {
+  auto const x = MakeVars<1>({kCells});
+  auto const y = MakeVars<1>({20});
+  // The cell with its block, and three lists.
+  EXPECT_LE(Allocations([&] { return MatMult(x, Matrix(SparseOrder::kRows), y); }), 5U);
+}
+
+}  // namespace
+}  // namespace vorqtest
