@@ -4,6 +4,8 @@
 #include "handles/builder_arrays.hpp"
 #include "handles/expressions.hpp"
 #include "handles/item_arrays.hpp"
+#include "handles/matrix_builders.hpp"
+#include "handles/matrix_items.hpp"
 #include "handles/model_files.hpp"
 
 class VorqModelBuilding : public VorqModelFiles {
@@ -44,38 +46,23 @@ class VorqModelBuilding : public VorqModelFiles {
   }
 
   // Blocks of variables.
-  Vorq::IMVar<0>* AddMVar(Vorq::INDim<0>*, char, char const*) override { return NotImplemented("AddMVar"); }
-  Vorq::IMVar<1>* AddMVar(Vorq::INDim<1>*, char, char const*) override { return NotImplemented("AddMVar"); }
-  Vorq::IMVar<2>* AddMVar(Vorq::INDim<2>*, char, char const*) override { return NotImplemented("AddMVar"); }
-  Vorq::IMVar<3>* AddMVar(Vorq::INDim<3>*, char, char const*) override { return NotImplemented("AddMVar"); }
-  Vorq::IMVar<0>* AddMVar(Vorq::INDim<0>*, double, double, double, char, char const*) override {
-    return NotImplemented("AddMVar");
+#define VORQ_ADD_MVAR(N)                                                                                          \
+  Vorq::IMVar<N>* AddMVar(Vorq::INDim<N>* shape, char type, char const* prefix) override {                        \
+    return Vorq::WrapBlock(Impl().AddMVar(Vorq::Unwrap(shape), type, prefix));                                    \
+  }                                                                                                               \
+  Vorq::IMVar<N>* AddMVar(Vorq::INDim<N>* shape, double lb, double ub, double obj, char type, char const* prefix) \
+      override {                                                                                                  \
+    return Vorq::WrapBlock(Impl().AddMVar(Vorq::Unwrap(shape), lb, ub, obj, type, prefix));                       \
+  }                                                                                                               \
+  Vorq::IMVar<N>* AddMVar(Vorq::INDim<N>* shape, double const* lbs, double const* ubs, double const* objs,        \
+                          char const* types, char const* prefix) override {                                       \
+    return Vorq::WrapBlock(Impl().AddMVar(Vorq::Unwrap(shape), lbs, ubs, objs, types, prefix));                   \
   }
-  Vorq::IMVar<1>* AddMVar(Vorq::INDim<1>*, double, double, double, char, char const*) override {
-    return NotImplemented("AddMVar");
-  }
-  Vorq::IMVar<2>* AddMVar(Vorq::INDim<2>*, double, double, double, char, char const*) override {
-    return NotImplemented("AddMVar");
-  }
-  Vorq::IMVar<3>* AddMVar(Vorq::INDim<3>*, double, double, double, char, char const*) override {
-    return NotImplemented("AddMVar");
-  }
-  Vorq::IMVar<0>* AddMVar(Vorq::INDim<0>*, double const*, double const*, double const*, char const*,
-                          char const*) override {
-    return NotImplemented("AddMVar");
-  }
-  Vorq::IMVar<1>* AddMVar(Vorq::INDim<1>*, double const*, double const*, double const*, char const*,
-                          char const*) override {
-    return NotImplemented("AddMVar");
-  }
-  Vorq::IMVar<2>* AddMVar(Vorq::INDim<2>*, double const*, double const*, double const*, char const*,
-                          char const*) override {
-    return NotImplemented("AddMVar");
-  }
-  Vorq::IMVar<3>* AddMVar(Vorq::INDim<3>*, double const*, double const*, double const*, char const*,
-                          char const*) override {
-    return NotImplemented("AddMVar");
-  }
+  VORQ_ADD_MVAR(0)
+  VORQ_ADD_MVAR(1)
+  VORQ_ADD_MVAR(2)
+  VORQ_ADD_MVAR(3)
+#undef VORQ_ADD_MVAR
 
   // Linear constraints.
   Vorq::IConstraint* AddConstr(Vorq::IExpr* expr, char sense, double rhs, char const* name) override {
@@ -109,33 +96,21 @@ class VorqModelBuilding : public VorqModelFiles {
   }
 
   // Linear constraints from matrix cells and blocks.
-  Vorq::IConstraint* AddConstr(Vorq::IMExpression*, char, double, char const*) override {
-    return NotImplemented("AddConstr");
+  Vorq::IConstraint* AddConstr(Vorq::IMExpression* cell, char sense, double rhs, char const* name) override {
+    return Vorq::Wrap<Vorq::IConstraint>(Impl().AddConstr(Vorq::Unwrap(cell), sense, rhs, name));
   }
-  Vorq::IMConstr<0>* AddMConstr(Vorq::IMConstrBuilder<0>*, char const*) override {
-    return NotImplemented("AddMConstr");
+#define VORQ_ADD_M_CONSTR(N)                                                                                     \
+  Vorq::IMConstr<N>* AddMConstr(Vorq::IMConstrBuilder<N>* builder, char const* prefix) override {                \
+    return Vorq::WrapBlock(Impl().AddMConstr(Vorq::Unwrap(builder), prefix));                                    \
+  }                                                                                                              \
+  Vorq::IMConstr<N>* AddMConstr(Vorq::IMLinExpr<N>* expr, char sense, double rhs, char const* prefix) override { \
+    return Vorq::WrapBlock(Impl().AddMConstr(Vorq::Unwrap(expr), sense, rhs, prefix));                           \
   }
-  Vorq::IMConstr<1>* AddMConstr(Vorq::IMConstrBuilder<1>*, char const*) override {
-    return NotImplemented("AddMConstr");
-  }
-  Vorq::IMConstr<2>* AddMConstr(Vorq::IMConstrBuilder<2>*, char const*) override {
-    return NotImplemented("AddMConstr");
-  }
-  Vorq::IMConstr<3>* AddMConstr(Vorq::IMConstrBuilder<3>*, char const*) override {
-    return NotImplemented("AddMConstr");
-  }
-  Vorq::IMConstr<0>* AddMConstr(Vorq::IMLinExpr<0>*, char, double, char const*) override {
-    return NotImplemented("AddMConstr");
-  }
-  Vorq::IMConstr<1>* AddMConstr(Vorq::IMLinExpr<1>*, char, double, char const*) override {
-    return NotImplemented("AddMConstr");
-  }
-  Vorq::IMConstr<2>* AddMConstr(Vorq::IMLinExpr<2>*, char, double, char const*) override {
-    return NotImplemented("AddMConstr");
-  }
-  Vorq::IMConstr<3>* AddMConstr(Vorq::IMLinExpr<3>*, char, double, char const*) override {
-    return NotImplemented("AddMConstr");
-  }
+  VORQ_ADD_M_CONSTR(0)
+  VORQ_ADD_M_CONSTR(1)
+  VORQ_ADD_M_CONSTR(2)
+  VORQ_ADD_M_CONSTR(3)
+#undef VORQ_ADD_M_CONSTR
 
   // User cuts and lazy constraints.
   void AddUserCut(Vorq::IExpr* expr, char sense, double rhs, char const* name) override {
@@ -153,10 +128,18 @@ class VorqModelBuilding : public VorqModelFiles {
   void AddUserCuts(Vorq::IConstrBuilderArray* builders, char const* names, std::uint64_t length) override {
     Impl().AddCuts(Vorq::kUserCut, Vorq::Unwrap(builders), names, length);
   }
-  void AddUserCuts(Vorq::IMConstrBuilder<0>*, char const*) override { NotImplemented("AddUserCuts"); }
-  void AddUserCuts(Vorq::IMConstrBuilder<1>*, char const*) override { NotImplemented("AddUserCuts"); }
-  void AddUserCuts(Vorq::IMConstrBuilder<2>*, char const*) override { NotImplemented("AddUserCuts"); }
-  void AddUserCuts(Vorq::IMConstrBuilder<3>*, char const*) override { NotImplemented("AddUserCuts"); }
+  void AddUserCuts(Vorq::IMConstrBuilder<0>* builder, char const* prefix) override {
+    Impl().AddCuts(Vorq::kUserCut, Vorq::Unwrap(builder), prefix);
+  }
+  void AddUserCuts(Vorq::IMConstrBuilder<1>* builder, char const* prefix) override {
+    Impl().AddCuts(Vorq::kUserCut, Vorq::Unwrap(builder), prefix);
+  }
+  void AddUserCuts(Vorq::IMConstrBuilder<2>* builder, char const* prefix) override {
+    Impl().AddCuts(Vorq::kUserCut, Vorq::Unwrap(builder), prefix);
+  }
+  void AddUserCuts(Vorq::IMConstrBuilder<3>* builder, char const* prefix) override {
+    Impl().AddCuts(Vorq::kUserCut, Vorq::Unwrap(builder), prefix);
+  }
   void AddLazyConstr(Vorq::IExpr* expr, char sense, double rhs, char const* name) override {
     Impl().AddCut(Vorq::kLazyConstr, Vorq::Unwrap(expr), sense, rhs, name);
   }
@@ -172,8 +155,16 @@ class VorqModelBuilding : public VorqModelFiles {
   void AddLazyConstrs(Vorq::IConstrBuilderArray* builders, char const* names, std::uint64_t length) override {
     Impl().AddCuts(Vorq::kLazyConstr, Vorq::Unwrap(builders), names, length);
   }
-  void AddLazyConstrs(Vorq::IMConstrBuilder<0>*, char const*) override { NotImplemented("AddLazyConstrs"); }
-  void AddLazyConstrs(Vorq::IMConstrBuilder<1>*, char const*) override { NotImplemented("AddLazyConstrs"); }
-  void AddLazyConstrs(Vorq::IMConstrBuilder<2>*, char const*) override { NotImplemented("AddLazyConstrs"); }
-  void AddLazyConstrs(Vorq::IMConstrBuilder<3>*, char const*) override { NotImplemented("AddLazyConstrs"); }
+  void AddLazyConstrs(Vorq::IMConstrBuilder<0>* builder, char const* prefix) override {
+    Impl().AddCuts(Vorq::kLazyConstr, Vorq::Unwrap(builder), prefix);
+  }
+  void AddLazyConstrs(Vorq::IMConstrBuilder<1>* builder, char const* prefix) override {
+    Impl().AddCuts(Vorq::kLazyConstr, Vorq::Unwrap(builder), prefix);
+  }
+  void AddLazyConstrs(Vorq::IMConstrBuilder<2>* builder, char const* prefix) override {
+    Impl().AddCuts(Vorq::kLazyConstr, Vorq::Unwrap(builder), prefix);
+  }
+  void AddLazyConstrs(Vorq::IMConstrBuilder<3>* builder, char const* prefix) override {
+    Impl().AddCuts(Vorq::kLazyConstr, Vorq::Unwrap(builder), prefix);
+  }
 };

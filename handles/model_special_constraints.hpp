@@ -28,9 +28,10 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
     return Vorq::Wrap<Vorq::IGenConstr>(
         Impl().AddGenConstrIndicator(Vorq::Unwrap(var), val, Vorq::Unwrap(expr), sense, rhs, type, name));
   }
-  Vorq::IGenConstr* AddGenConstrIndicator(Vorq::IVar*, int, Vorq::IMExpression*, char, double, int,
-                                          char const*) override {
-    return NotImplemented("AddGenConstrIndicator");
+  Vorq::IGenConstr* AddGenConstrIndicator(Vorq::IVar* var, int val, Vorq::IMExpression* cell, char sense, double rhs,
+                                          int type, char const* name) override {
+    return Vorq::Wrap<Vorq::IGenConstr>(
+        Impl().AddGenConstrIndicator(Vorq::Unwrap(var), val, Vorq::Unwrap(cell), sense, rhs, type, name));
   }
   Vorq::IGenConstrArray* AddGenConstrIndicators(Vorq::IGenConstrBuilderArray* builders, char const* prefix) override {
     return Vorq::Wrap<Vorq::IGenConstrArray>(Impl().AddGenConstrIndicators(Vorq::Unwrap(builders), prefix));
@@ -39,22 +40,17 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
                                                 std::uint64_t length) override {
     return Vorq::Wrap<Vorq::IGenConstrArray>(Impl().AddGenConstrIndicators(Vorq::Unwrap(builders), names, length));
   }
-  Vorq::IGenConstrArray* AddGenConstrIndicators(Vorq::IMVar<0>*, int, Vorq::IMConstrBuilder<0>*, int,
-                                                char const*) override {
-    return NotImplemented("AddGenConstrIndicators");
+#define VORQ_ADD_INDICATORS(N)                                                                                        \
+  Vorq::IGenConstrArray* AddGenConstrIndicators(Vorq::IMVar<N>* binaries, int val, Vorq::IMConstrBuilder<N>* builder, \
+                                                int type, char const* prefix) override {                              \
+    return Vorq::Wrap<Vorq::IGenConstrArray>(                                                                         \
+        Impl().AddGenConstrIndicators(Vorq::Unwrap(binaries), val, Vorq::Unwrap(builder), type, prefix));             \
   }
-  Vorq::IGenConstrArray* AddGenConstrIndicators(Vorq::IMVar<1>*, int, Vorq::IMConstrBuilder<1>*, int,
-                                                char const*) override {
-    return NotImplemented("AddGenConstrIndicators");
-  }
-  Vorq::IGenConstrArray* AddGenConstrIndicators(Vorq::IMVar<2>*, int, Vorq::IMConstrBuilder<2>*, int,
-                                                char const*) override {
-    return NotImplemented("AddGenConstrIndicators");
-  }
-  Vorq::IGenConstrArray* AddGenConstrIndicators(Vorq::IMVar<3>*, int, Vorq::IMConstrBuilder<3>*, int,
-                                                char const*) override {
-    return NotImplemented("AddGenConstrIndicators");
-  }
+  VORQ_ADD_INDICATORS(0)
+  VORQ_ADD_INDICATORS(1)
+  VORQ_ADD_INDICATORS(2)
+  VORQ_ADD_INDICATORS(3)
+#undef VORQ_ADD_INDICATORS
 
   // Cones.
   Vorq::ICone* AddCone(int dim, int type, char const* varTypes, char const* prefix) override {
@@ -66,8 +62,12 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
   Vorq::ICone* AddCone(Vorq::IVarArray* vars, int type) override {
     return Vorq::Wrap<Vorq::ICone>(Impl().AddCone(Vorq::Unwrap(vars), type));
   }
-  Vorq::ICone* AddCone(Vorq::IMVar<1>*, int) override { return NotImplemented("AddCone"); }
-  Vorq::IConeArray* AddCones(Vorq::IMVar<2>*, int) override { return NotImplemented("AddCones"); }
+  Vorq::ICone* AddCone(Vorq::IMVar<1>*, int) override {
+    return NotImplemented("AddCone");
+  }
+  Vorq::IConeArray* AddCones(Vorq::IMVar<2>*, int) override {
+    return NotImplemented("AddCones");
+  }
   Vorq::IExpCone* AddExpCone(int type, char const* varTypes, char const* prefix) override {
     return Vorq::Wrap<Vorq::IExpCone>(Impl().AddExpCone(type, varTypes, prefix));
   }
@@ -77,8 +77,12 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
   Vorq::IExpCone* AddExpCone(Vorq::IVarArray* vars, int type) override {
     return Vorq::Wrap<Vorq::IExpCone>(Impl().AddExpCone(Vorq::Unwrap(vars), type));
   }
-  Vorq::IExpCone* AddExpCone(Vorq::IMVar<1>*, int) override { return NotImplemented("AddExpCone"); }
-  Vorq::IExpConeArray* AddExpCones(Vorq::IMVar<2>*, int) override { return NotImplemented("AddExpCones"); }
+  Vorq::IExpCone* AddExpCone(Vorq::IMVar<1>*, int) override {
+    return NotImplemented("AddExpCone");
+  }
+  Vorq::IExpConeArray* AddExpCones(Vorq::IMVar<2>*, int) override {
+    return NotImplemented("AddExpCones");
+  }
   Vorq::IAffineCone* AddAffineCone(Vorq::IAffineConeBuilder*, char const*) override {
     return NotImplemented("AddAffineCone");
   }
@@ -117,33 +121,21 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
   Vorq::IQConstraint* AddQConstr(Vorq::IQConstrBuilder* builder, char const* name) override {
     return Vorq::Wrap<Vorq::IQConstraint>(Impl().AddQConstr(Vorq::Unwrap(builder), name));
   }
-  Vorq::IQConstraint* AddQConstr(Vorq::IMQExpression*, char, double, char const*) override {
-    return NotImplemented("AddQConstr");
+  Vorq::IQConstraint* AddQConstr(Vorq::IMQExpression* cell, char sense, double rhs, char const* name) override {
+    return Vorq::Wrap<Vorq::IQConstraint>(Impl().AddQConstr(Vorq::Unwrap(cell), sense, rhs, name));
   }
-  Vorq::IMQConstr<0>* AddMQConstr(Vorq::IMQConstrBuilder<0>*, char const*) override {
-    return NotImplemented("AddMQConstr");
+#define VORQ_ADD_M_Q_CONSTR(N)                                                                                      \
+  Vorq::IMQConstr<N>* AddMQConstr(Vorq::IMQConstrBuilder<N>* builder, char const* prefix) override {                \
+    return Vorq::WrapBlock(Impl().AddMQConstr(Vorq::Unwrap(builder), prefix));                                      \
+  }                                                                                                                 \
+  Vorq::IMQConstr<N>* AddMQConstr(Vorq::IMQuadExpr<N>* expr, char sense, double rhs, char const* prefix) override { \
+    return Vorq::WrapBlock(Impl().AddMQConstr(Vorq::Unwrap(expr), sense, rhs, prefix));                             \
   }
-  Vorq::IMQConstr<1>* AddMQConstr(Vorq::IMQConstrBuilder<1>*, char const*) override {
-    return NotImplemented("AddMQConstr");
-  }
-  Vorq::IMQConstr<2>* AddMQConstr(Vorq::IMQConstrBuilder<2>*, char const*) override {
-    return NotImplemented("AddMQConstr");
-  }
-  Vorq::IMQConstr<3>* AddMQConstr(Vorq::IMQConstrBuilder<3>*, char const*) override {
-    return NotImplemented("AddMQConstr");
-  }
-  Vorq::IMQConstr<0>* AddMQConstr(Vorq::IMQuadExpr<0>*, char, double, char const*) override {
-    return NotImplemented("AddMQConstr");
-  }
-  Vorq::IMQConstr<1>* AddMQConstr(Vorq::IMQuadExpr<1>*, char, double, char const*) override {
-    return NotImplemented("AddMQConstr");
-  }
-  Vorq::IMQConstr<2>* AddMQConstr(Vorq::IMQuadExpr<2>*, char, double, char const*) override {
-    return NotImplemented("AddMQConstr");
-  }
-  Vorq::IMQConstr<3>* AddMQConstr(Vorq::IMQuadExpr<3>*, char, double, char const*) override {
-    return NotImplemented("AddMQConstr");
-  }
+  VORQ_ADD_M_Q_CONSTR(0)
+  VORQ_ADD_M_Q_CONSTR(1)
+  VORQ_ADD_M_Q_CONSTR(2)
+  VORQ_ADD_M_Q_CONSTR(3)
+#undef VORQ_ADD_M_Q_CONSTR
 
   // Semidefinite variables and constraints.
   Vorq::IPsdVar* AddPsdVar(int dim, char const* name) override {
@@ -167,30 +159,18 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
   Vorq::IPsdConstraint* AddPsdConstr(Vorq::IPsdConstrBuilder* builder, char const* name) override {
     return Vorq::Wrap<Vorq::IPsdConstraint>(Impl().AddPsdConstr(Vorq::Unwrap(builder), name));
   }
-  Vorq::IMPsdConstr<0>* AddMPsdConstr(Vorq::IMPsdConstrBuilder<0>*, char const*) override {
-    return NotImplemented("AddMPsdConstr");
+#define VORQ_ADD_M_PSD_CONSTR(N)                                                                                       \
+  Vorq::IMPsdConstr<N>* AddMPsdConstr(Vorq::IMPsdConstrBuilder<N>* builder, char const* prefix) override {             \
+    return Vorq::WrapBlock(Impl().AddMPsdConstr(Vorq::Unwrap(builder), prefix));                                       \
+  }                                                                                                                    \
+  Vorq::IMPsdConstr<N>* AddMPsdConstr(Vorq::IMPsdExpr<N>* expr, char sense, double rhs, char const* prefix) override { \
+    return Vorq::WrapBlock(Impl().AddMPsdConstr(Vorq::Unwrap(expr), sense, rhs, prefix));                              \
   }
-  Vorq::IMPsdConstr<1>* AddMPsdConstr(Vorq::IMPsdConstrBuilder<1>*, char const*) override {
-    return NotImplemented("AddMPsdConstr");
-  }
-  Vorq::IMPsdConstr<2>* AddMPsdConstr(Vorq::IMPsdConstrBuilder<2>*, char const*) override {
-    return NotImplemented("AddMPsdConstr");
-  }
-  Vorq::IMPsdConstr<3>* AddMPsdConstr(Vorq::IMPsdConstrBuilder<3>*, char const*) override {
-    return NotImplemented("AddMPsdConstr");
-  }
-  Vorq::IMPsdConstr<0>* AddMPsdConstr(Vorq::IMPsdExpr<0>*, char, double, char const*) override {
-    return NotImplemented("AddMPsdConstr");
-  }
-  Vorq::IMPsdConstr<1>* AddMPsdConstr(Vorq::IMPsdExpr<1>*, char, double, char const*) override {
-    return NotImplemented("AddMPsdConstr");
-  }
-  Vorq::IMPsdConstr<2>* AddMPsdConstr(Vorq::IMPsdExpr<2>*, char, double, char const*) override {
-    return NotImplemented("AddMPsdConstr");
-  }
-  Vorq::IMPsdConstr<3>* AddMPsdConstr(Vorq::IMPsdExpr<3>*, char, double, char const*) override {
-    return NotImplemented("AddMPsdConstr");
-  }
+  VORQ_ADD_M_PSD_CONSTR(0)
+  VORQ_ADD_M_PSD_CONSTR(1)
+  VORQ_ADD_M_PSD_CONSTR(2)
+  VORQ_ADD_M_PSD_CONSTR(3)
+#undef VORQ_ADD_M_PSD_CONSTR
   Vorq::ILmiConstraint* AddLmiConstr(Vorq::ILmiExpr* expr, char const* name) override {
     return Vorq::Wrap<Vorq::ILmiConstraint>(Impl().AddLmiConstr(Vorq::Unwrap(expr), name));
   }
@@ -217,8 +197,12 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
   Vorq::ISymMatrix* AddDiagMat(int dim, double value, int offset) override {
     return Vorq::Wrap<Vorq::ISymMatrix>(Impl().AddDiagMat(dim, value, offset));
   }
-  Vorq::ISymMatrix* AddOnesMat(int dim) override { return Vorq::Wrap<Vorq::ISymMatrix>(Impl().AddDenseMat(dim, 1.0)); }
-  Vorq::ISymMatrix* AddEyeMat(int dim) override { return Vorq::Wrap<Vorq::ISymMatrix>(Impl().AddDiagMat(dim, 1.0)); }
+  Vorq::ISymMatrix* AddOnesMat(int dim) override {
+    return Vorq::Wrap<Vorq::ISymMatrix>(Impl().AddDenseMat(dim, 1.0));
+  }
+  Vorq::ISymMatrix* AddEyeMat(int dim) override {
+    return Vorq::Wrap<Vorq::ISymMatrix>(Impl().AddDiagMat(dim, 1.0));
+  }
   Vorq::ISymMatrix* AddSymMat(Vorq::ISymMatExpr* expr) override {
     return Vorq::Wrap<Vorq::ISymMatrix>(Impl().AddSymMat(Vorq::Unwrap(expr)));
   }

@@ -14,6 +14,7 @@
 // An operation that fails gives a block of one cell whose status tells why.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -41,6 +42,8 @@ class MatrixObject final : public MExprBase<N> {
       : MatrixObject(NdArray<Cell, N>::Filled(shape, prototype)) {}
   // The form of a failed result: every size 1, one default cell, and `text` in the status.
   static MatrixObject Failed(char const* text);
+  // A block of these sizes without a store: it reads as default cells, and ignores writes.
+  static MatrixObject WithoutCells(NDim<N> const& shape);
 
   int GetND() const override { return N; }
   std::uint64_t GetDim(int axis) const override { return cells_.GetDim(axis); }
@@ -76,8 +79,14 @@ class MatrixObject final : public MExprBase<N> {
   template <class R, class Reader>
   NdArray<R, N> Read(Reader&& read) const {
     auto result = NdArray<R, N>::Fresh(cells_.GetShape());
+    if (result.GetSize() == 0) return result;
     R* target = result.Store().Get();
-    cells_.ForEach([&](Cell& cell) { *target++ = read(cell); });
+    if (cells_.HasElements()) {
+      cells_.ForEach([&](Cell& cell) { *target++ = read(cell); });
+    } else {
+      Cell cell = DefaultCell<Cell>();
+      std::fill_n(target, result.GetSize(), read(cell));
+    }
     return result;
   }
 

@@ -31,6 +31,13 @@ MatrixObject<Cell, N> MatrixObject<Cell, N>::Failed(char const* text) {
 }
 
 template <class Cell, int N>
+MatrixObject<Cell, N> MatrixObject<Cell, N>::WithoutCells(NDim<N> const& shape) {
+  MatrixObject result;
+  result.cells_ = NdArray<Cell, N>(shape.Clone(), {});
+  return result;
+}
+
+template <class Cell, int N>
 MatrixObject<Cell, 1> MatrixObject<Cell, N>::Reshape(NDim<1> const& shape) const {
   return MatrixObject<Cell, 1>(cells_.Reshape(shape));
 }

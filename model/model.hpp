@@ -16,6 +16,7 @@
 #include <atomic>
 #include <cstddef>
 #include <functional>
+#include <limits>
 #include <span>
 #include <string>
 #include <string_view>
@@ -26,6 +27,7 @@
 #include "frame/status.hpp"
 #include "items/item_arrays.hpp"
 #include "items/lmi_expr.hpp"
+#include "matrix/matrix_object.hpp"
 #include "model/cone_problem.hpp"
 #include "model/cut_kinds.hpp"
 #include "model/envr.hpp"
@@ -36,6 +38,9 @@
 namespace Vorq {
 
 inline constexpr double kInfinity = VORQ_INFINITY;
+
+// What the solver library counts with.
+inline constexpr std::size_t kMaxCount = std::numeric_limits<int>::max();
 
 // Rows or columns as the solver library hands them out: line i has count[i] elements from position begin[i].
 struct SparseLines {
@@ -54,6 +59,9 @@ struct NamedRead {
 
 struct NameRule;
 struct VarListReader;
+class BlockNames;
+template <class Cell, int N>
+class MatrixConstrBuilder;
 
 class Model {
  public:
@@ -213,6 +221,51 @@ class Model {
   SymMatrix GetLmiRhs(LmiConstraint const& constr);
   void SetLmiRhs(LmiConstraint const& constr, SymMatrix const& mat);
 
+  // ---- Blocks of variables (model_block_vars.cpp): one column a cell, in flat order, named by prefix and index. A
+  // block that failed has the sizes asked for, but no cells.
+
+  template <int N>
+  MVar<N> AddMVar(NDim<N> const& shape, char type, char const* prefix);
+  template <int N>
+  MVar<N> AddMVar(NDim<N> const& shape, double lb, double ub, double obj, char type, char const* prefix);
+  // Null arrays leave the attribute to the solver library.
+  template <int N>
+  MVar<N> AddMVar(NDim<N> const& shape, double const* lbs, double const* ubs, double const* objs, char const* types,
+                  char const* prefix);
+
+  // ---- Constraints from cells, and blocks of them (model_block_constraints.cpp, model_block_special_constraints.cpp).
+  // Cells and builders are only read. A block that failed is empty.
+
+  Constraint AddConstr(MExpression const& cell, char sense, double rhs, char const* name);
+  template <int N>
+  MConstr<N> AddMConstr(MatrixConstrBuilder<MExpression, N> const& builder, char const* prefix);
+  // The rows are compared with 0: `rhs` is not applied, which is meant.
+  template <int N>
+  MConstr<N> AddMConstr(MLinExpr<N> const& expr, char sense, double rhs, char const* prefix);
+  // Named like the cuts and lazy constraints of an array of builders.
+  template <int N>
+  void AddCuts(CutKind const& kind, MatrixConstrBuilder<MExpression, N> const& builder, char const* prefix);
+
+  // The right side is taken less the constant of the explicit part.
+  QConstraint AddQConstr(MQExpression const& cell, char sense, double rhs, char const* name);
+  template <int N>
+  MQConstr<N> AddMQConstr(MatrixConstrBuilder<MQExpression, N> const& builder, char const* prefix);
+  template <int N>
+  MQConstr<N> AddMQConstr(MQuadExpr<N> const& expr, char sense, double rhs, char const* prefix);
+
+  template <int N>
+  MPsdConstr<N> AddMPsdConstr(MatrixConstrBuilder<PsdExpr, N> const& builder, char const* prefix);
+  template <int N>
+  MPsdConstr<N> AddMPsdConstr(MPsdExpr<N> const& expr, char sense, double rhs, char const* prefix);
+
+  GenConstr AddGenConstrIndicator(Var const& var, int value, MExpression const& cell, char sense, double rhs, int type,
+                                  char const* name);
+  // One constraint a cell; those before one that fails stay, and are what is returned.
+  template <int N>
+  GenConstrArray AddGenConstrIndicators(MVar<N> const& binaries, int value,
+                                        MatrixConstrBuilder<MExpression, N> const& builder, int type,
+                                        char const* prefix);
+
   // ---- Coefficients (model_coefficients.cpp), bulk loads (model_bulk_loads.cpp)
 
   double GetCoeff(Constraint const& constr, Var const& var);
@@ -235,8 +288,10 @@ class Model {
   // A sense of 0 leaves the sense as it is.
   void SetObjective(Expr& expr, int sense);
   void SetObjective(Var const& var, int sense);
+  void SetObjective(MExpression const& cell, int sense);
   Expr GetObjective();
   void SetQuadObjective(QuadExpr& expr, int sense);
+  void SetQuadObjective(MQExpression const& cell, int sense);
   QuadExpr GetQuadObjective();
   void DelQuadObj();
   void SetPsdObjective(PsdExpr& expr, int sense);
@@ -352,6 +407,13 @@ class Model {
     ++table.count;
     return item;
   }
+  // Makes room for as many more.
+  template <class Item>
+  void ReserveItems(std::size_t count) {
+    std::vector<Item>& items = core_->Table<Item>().items;
+    std::size_t const needed = items.size() + count;
+    if (needed > items.capacity()) items.reserve(std::max(needed, 2 * items.capacity()));
+  }
   template <class Item, class... Dimension>
   Item Added(int code, char const* text, std::string name, Dimension... dimension) {
     if (!Record(code, text)) return Invalid<Item>();
@@ -363,11 +425,14 @@ class Model {
                              Dimensions const*... dimensions) {
     std::vector<Item> added;
     if (!Record(code, text)) return added;
-    ReserveMore(core_->Table<Item>().items, names.size());
+    ReserveItems<Item>(names.size());
     added.reserve(names.size());
     for (std::size_t i = 0; i < names.size(); ++i) added.push_back(Append<Item>(names[i], dimensions[i]...));
     return added;
   }
+  // Appends one item a cell of a block.
+  template <class Item, int N>
+  MatrixObject<Item, N> AppendBlock(BlockNames const& names, NDim<N> const& shape);
   // False, with the failure recorded, for a buffer that is too short.
   bool TakeNames(char const* names, std::size_t length, int count, std::vector<char const*>& result);
 
@@ -383,6 +448,10 @@ class Model {
   // The same to the end of a batch, with the coefficients.
   template <class Terms>
   void Flatten(Terms& terms, int size, TermBatch& batch);
+  // The merged terms of a cell, or of an expression that is not to be changed, into `indices_` and `coeffs_`; the
+  // result is their number.
+  template <class Terms>
+  std::size_t Collect(Terms const& terms);
   // The columns of the variables; false, with the failure recorded, at one that is not live.
   bool LiveColumns(VarArray const& vars, std::vector<int>& cols);
 
@@ -442,6 +511,17 @@ class Model {
   void TellColumnCount();
   Constraint AddRow(Expr& expr, int sense, double bound, double upper, std::string name);
   int FlattenBuilders(ConstrBuilderArray& builders, RowBatch& batch);
+  // The rows of a block in one call. `upper` counts for ranges.
+  template <int N>
+  MConstr<N> AddRowBlock(MLinExpr<N> const& expr, char sense, double upper, char const* prefix);
+  // One item a cell by add(cell, name), up to the first that is refused.
+  template <class Item, class Cell, int N, class Add>
+  MatrixObject<Item, N> AddOneByOne(MatrixObject<Cell, N> const& block, char const* prefix, char const* sizeFailed,
+                                    Add&& add);
+  bool CheckIndicator(Var const& var, char sense);
+  GenConstr AddIndicator(Var const& var, int value, double const* coeffs, char sense, double rhs, int type,
+                         char const* name);
+  void ReplaceObjective(double const* coeffs, double constant, int sense);
   PsdConstraint AddPsdRow(PsdExpr& expr, int sense, double bound, double upper, std::string name);
   // Makes a matrix of each coefficient; false at one that fails, those before it staying.
   bool AddMatrices(std::vector<SymMatExpr> const& coeffs, std::vector<int>& matrices, int* dim = nullptr);
@@ -477,6 +557,7 @@ class Model {
   std::vector<unsigned char> denseFlag_;
   std::vector<int> denseIdx_;
   std::vector<int> indices_;
+  std::vector<double> coeffs_;
   // Set while an operation runs that another thread may interrupt.
   std::atomic<bool> solving_{false};
 };

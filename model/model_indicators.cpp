@@ -27,25 +27,36 @@ struct Model::IndicatorLines {
   std::vector<double> rhss;
 };
 
-GenConstr Model::AddGenConstrIndicator(Var const& var, int value, Expr& expr, char sense, double rhs, int type,
-                                       char const* name) {
-  if (var.GetType() != 'B') {
-    Refuse(kInvalidVariable);
-    return Invalid<GenConstr>();
-  }
-  if (!IsPlainSense(sense)) {
-    Refuse(kInvalidSense);
-    return Invalid<GenConstr>();
-  }
+bool Model::CheckIndicator(Var const& var, char sense) {
+  if (var.GetType() != 'B') return Refuse(kInvalidVariable);
+  return IsPlainSense(sense) || Refuse(kInvalidSense);
+}
+
+// The terms stand in `indices_`.
+GenConstr Model::AddIndicator(Var const& var, int value, double const* coeffs, char sense, double rhs, int type,
+                              char const* name) {
   std::string normalized = NormalizeName(name);
   char const* const names = normalized.c_str();
-  int const count = Compact(expr, Count<Var>());
+  int const count = static_cast<int>(indices_.size());
   int const col = var.Idx();
   int const begin = 0;
-  double const bound = rhs - expr.constant;
-  int const code = VORQ_AddIndicators(Prob(), 1, &type, &col, &value, &begin, &count, indices_.data(),
-                                      expr.coeffs.data(), &sense, &bound, &names);
+  int const code =
+      VORQ_AddIndicators(Prob(), 1, &type, &col, &value, &begin, &count, indices_.data(), coeffs, &sense, &rhs, &names);
   return Added<GenConstr>(code, "Fail to add an indicator constraint", std::move(normalized));
+}
+
+GenConstr Model::AddGenConstrIndicator(Var const& var, int value, Expr& expr, char sense, double rhs, int type,
+                                       char const* name) {
+  if (!CheckIndicator(var, sense)) return Invalid<GenConstr>();
+  Compact(expr, Count<Var>());
+  return AddIndicator(var, value, expr.coeffs.data(), sense, rhs - expr.constant, type, name);
+}
+
+GenConstr Model::AddGenConstrIndicator(Var const& var, int value, MExpression const& cell, char sense, double rhs,
+                                       int type, char const* name) {
+  if (!CheckIndicator(var, sense)) return Invalid<GenConstr>();
+  Collect(cell);
+  return AddIndicator(var, value, coeffs_.data(), sense, rhs - cell.GetConstant(), type, name);
 }
 
 GenConstr Model::AddGenConstrIndicator(Var const& var, int value, ConstrBuilder& builder, int type, char const* name) {

@@ -17,14 +17,22 @@ void Model::SetObjConst(double constant) {
   Record(VORQ_SetObjConst(Prob(), constant), kObjConstFailed);
 }
 
-void Model::SetObjective(Expr& expr, int sense) {
-  int const n = Compact(expr, Count<Var>());
-  if (!Record(VORQ_ReplaceColObj(Prob(), n, indices_.data(), expr.coeffs.data()),
-              "Fail to set objective coefficients")) {
-    return;
-  }
-  if (!Record(VORQ_SetObjConst(Prob(), expr.constant), kObjConstFailed)) return;
+// The terms stand in `indices_`.
+void Model::ReplaceObjective(double const* coeffs, double constant, int sense) {
+  int const code = VORQ_ReplaceColObj(Prob(), static_cast<int>(indices_.size()), indices_.data(), coeffs);
+  if (!Record(code, "Fail to set objective coefficients")) return;
+  if (!Record(VORQ_SetObjConst(Prob(), constant), kObjConstFailed)) return;
   if (sense != 0) SetObjSense(sense);
+}
+
+void Model::SetObjective(Expr& expr, int sense) {
+  Compact(expr, Count<Var>());
+  ReplaceObjective(expr.coeffs.data(), expr.constant, sense);
+}
+
+void Model::SetObjective(MExpression const& cell, int sense) {
+  Collect(cell);
+  ReplaceObjective(coeffs_.data(), cell.GetConstant(), sense);
 }
 
 void Model::SetObjective(Var const& var, int sense) {

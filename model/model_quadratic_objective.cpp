@@ -1,13 +1,34 @@
 // The quadratic part of the objective: it goes before the linear one, and a failure leaves that one as it was.
+#include "model/cell_terms.hpp"
 #include "model/model.hpp"
 #include "model/quadratic_terms.hpp"
 
 namespace Vorq {
+namespace {
+
+constexpr char const* kSetQuadObjFailed = "Fail to set quadratic objective";
+
+}  // namespace
 
 void Model::SetQuadObjective(QuadExpr& expr, int sense) {
   QuadraticTerms const terms(expr);
   int const code = VORQ_SetQuadObj(Prob(), terms.Count(), terms.rows.data(), terms.cols.data(), expr.coeffs.data());
-  if (Record(code, "Fail to set quadratic objective")) SetObjective(expr.linear, sense);
+  if (Record(code, kSetQuadObjFailed)) SetObjective(expr.linear, sense);
+}
+
+void Model::SetQuadObjective(MQExpression const& cell, int sense) {
+  std::vector<int> rows, cols;
+  std::vector<double> values;
+  std::size_t const count = CollectQuadTerms(cell, rows, cols, values);
+  if (count >= kMaxCount) {
+    SetStatus(status, kInvalid, "Fail to set objective of quadratic items of size %zu", count);
+    return;
+  }
+  int const code = VORQ_SetQuadObj(Prob(), static_cast<int>(count), rows.data(), cols.data(), values.data());
+  if (!Record(code, kSetQuadObjFailed)) return;
+  // The cell is only read: its linear part is merged in a copy.
+  Expr linear = cell.expr.linear;
+  SetObjective(linear, sense);
 }
 
 QuadExpr Model::GetQuadObjective() {

@@ -3,6 +3,7 @@
 
 #include <span>
 
+#include "model/cell_terms.hpp"
 #include "model/model.hpp"
 
 namespace Vorq {
@@ -36,6 +37,14 @@ int Model::Compact(Terms& terms, int size) {
   indices_.clear();
   Compact(terms, size, indices_);
   return static_cast<int>(indices_.size());
+}
+
+template <class Terms>
+std::size_t Model::Collect(Terms const& terms) {
+  EnsureDense(Count<Var>());
+  indices_.clear();
+  coeffs_.clear();
+  return CollectTerms(terms, denseIdx_, indices_, coeffs_);
 }
 
 template <class Item, class Terms>

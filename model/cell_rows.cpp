@@ -1,0 +1,104 @@
+// Writing the rows of a block.
+#include "model/cell_rows.hpp"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "model/cell_terms.hpp"
+
+namespace Vorq {
+namespace {
+
+bool AreSame(StridedVector<Var> const& a, StridedVector<Var> const& b) {
+  return a.First() == b.First() && a.Stride() == b.Stride() && a.Size() == b.Size();
+}
+
+// Whether the cell is nothing but its lazy product, apart from its constant.
+bool IsLazyProduct(MExpression const& cell) {
+  return cell.expr.Size() == 0 && !cell.vars.IsEmpty() && cell.coeffs.Size() >= cell.vars.Size() && cell.scale != 0.0;
+}
+
+// Whether the coefficients can be read as they lie there.
+bool IsPlain(MExpression const& cell) {
+  return cell.scale == 1.0 && (cell.coeffs.Stride() == 1 || cell.LazySize() == 1);
+}
+
+bool HasZero(double const* values, std::size_t count) {
+  bool hasZero = false;
+  for (std::size_t i = 0; i < count; ++i) hasZero |= values[i] == 0.0;
+  return hasZero;
+}
+
+}  // namespace
+
+CellRows::CellRows(std::vector<int>& marks, std::size_t rows, std::size_t terms) : marks_(marks), terms_(terms) {
+  begins_.reserve(rows);
+  counts_.reserve(rows);
+  indices_.reserve(terms);
+}
+
+void CellRows::Add(MExpression const& cell) {
+  std::size_t const begin = indices_.size();
+  begins_.push_back(static_cast<int>(begin));
+  if (!IsLazyProduct(cell) || !AddSharedRow(cell)) AddOwnRow(cell);
+  counts_.push_back(static_cast<int>(indices_.size() - begin));
+}
+
+// False, with nothing added, for a row that shares no columns with the one before.
+bool CellRows::AddSharedRow(MExpression const& cell) {
+  if (!FindColumns(cell.vars)) return false;
+  std::size_t const count = columns_.size();
+  double const* coefficient = cell.coeffs.First();
+  bool const isPlain = IsPlain(cell) && !HasZero(coefficient, count);
+  if (source_ != nullptr && isPlain && coefficient == source_ + indices_.size()) {
+    indices_.insert(indices_.end(), columns_.begin(), columns_.end());
+    return true;
+  }
+  CopySource();
+  if (isPlain) {
+    indices_.insert(indices_.end(), columns_.begin(), columns_.end());
+    coefficients_.insert(coefficients_.end(), coefficient, coefficient + count);
+    return true;
+  }
+  for (std::size_t i = 0; i < count; ++i, coefficient += cell.coeffs.Stride()) {
+    if (*coefficient == 0.0) continue;
+    indices_.push_back(columns_[i]);
+    coefficients_.push_back(*coefficient * cell.scale);
+  }
+  return true;
+}
+
+void CellRows::AddOwnRow(MExpression const& cell) {
+  CopySource();
+  bool const isFirst = indices_.empty();
+  std::size_t const count = CollectTerms(cell, marks_, indices_, coefficients_);
+  // A first row without merged and without missing terms may turn out to be the first of a matrix.
+  if (isFirst && IsLazyProduct(cell) && IsPlain(cell) && count == cell.LazySize()) source_ = cell.coeffs.First();
+}
+
+bool CellRows::FindColumns(StridedVector<Var> const& vars) {
+  if (vars_ == nullptr || !AreSame(*vars_, vars)) {
+    vars_ = &vars;
+    hasColumns_ = false;
+    return false;
+  }
+  if (!hasColumns_) {
+    hasColumns_ = true;
+    columns_.clear();
+    std::vector<double> coefficients;
+    double one = 1.0;
+    MExpression const sum(StridedVector<double>(SharedPtr<double>(&one, 0), 0, 0, vars.Size()), vars);
+    if (CollectTerms(sum, marks_, columns_, coefficients) != vars.Size()) columns_.clear();
+  }
+  return !columns_.empty();
+}
+
+void CellRows::CopySource() {
+  if (coefficients_.capacity() < terms_) coefficients_.reserve(terms_);
+  if (source_ == nullptr) return;
+  std::size_t const copied = coefficients_.size();
+  coefficients_.insert(coefficients_.end(), source_ + copied, source_ + indices_.size());
+  source_ = nullptr;
+}
+
+}  // namespace Vorq
