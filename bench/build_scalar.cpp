@@ -12,40 +12,13 @@
 
 #include <vorq>
 
+#include "bench/fingerprint.hpp"
 #include "bench/generators.hpp"
 #include "bench/measure.hpp"
 #include "bench/raw_model.hpp"
 #include "bench/scalar_sink.hpp"
 
 namespace {
-
-// A sum over all elements that does not depend on their order.
-double Fingerprint(std::int64_t row, std::int64_t col, double value) {
-  return value * (1.0 + static_cast<double>((row * 31 + col * 17) % 1009));
-}
-
-double Fingerprint(bench::RawArrays const& arrays) {
-  double sum = 0.0;
-  for (std::int64_t i = 0; i < arrays.rows; ++i) {
-    for (int k = arrays.begins[i]; k < arrays.begins[i + 1]; ++k) {
-      sum += Fingerprint(i, arrays.indices[k], arrays.values[k]);
-    }
-  }
-  return sum;
-}
-
-double Fingerprint(Vorq::IModel& model) {
-  int const cols = model.GetIntAttr("Cols");
-  int const elements = model.GetIntAttr("Elems");
-  std::vector<int> begin(cols), count(cols), index(elements);
-  std::vector<double> value(elements);
-  model.GetCols(begin.data(), count.data(), index.data(), value.data());
-  double sum = 0.0;
-  for (int j = 0; j < cols; ++j) {
-    for (int k = begin[j]; k < begin[j] + count[j]; ++k) sum += Fingerprint(index[k], j, value[k]);
-  }
-  return sum;
-}
 
 // The raw model is the one that the scalar one must equal.
 struct Expected {
@@ -55,7 +28,7 @@ struct Expected {
   bool Matches(Vorq::IModel& model) const {
     return model.GetIntAttr("Rows") == size.rows && model.GetIntAttr("Cols") == size.cols &&
            model.GetIntAttr("Elems") == size.elements &&
-           std::abs(Fingerprint(model) - fingerprint) <= 1e-9 * std::abs(fingerprint);
+           std::abs(bench::Fingerprint(model) - fingerprint) <= 1e-9 * std::abs(fingerprint);
   }
 };
 
@@ -63,7 +36,7 @@ template <class Generator>
 void Run(char const* name, Generator const& generator, Vorq::IEnvr& envr, int repeats) {
   bench::RawSink reference;
   generator.Generate(reference);
-  Expected const expected{generator.GetSize(), Fingerprint(reference.Arrays())};
+  Expected const expected{generator.GetSize(), bench::Fingerprint(reference.Arrays())};
 
   std::vector<bench::Cost> rawCosts, scalarCosts;
   for (int repeat = 0; repeat < repeats; ++repeat) {
@@ -72,9 +45,9 @@ void Run(char const* name, Generator const& generator, Vorq::IEnvr& envr, int re
     rawCosts.push_back(bench::Measure(
         [&] {
           generator.Generate(rawSink);
-          handedOver = rawSink.Arrays().Copy();
+          handedOver = rawSink.Arrays().View().Copy();
         },
-        [&] { return Fingerprint(handedOver) == expected.fingerprint; }));
+        [&] { return bench::Fingerprint(handedOver) == expected.fingerprint; }));
     std::unique_ptr<Vorq::IModel> model;
     std::unique_ptr<bench::ScalarSink> sink;
     scalarCosts.push_back(bench::Measure(

@@ -169,6 +169,11 @@ class RandomBlock {
 
   Size GetSize() const { return {n_, n_, 10 * std::int64_t{n_}, 10 * std::int64_t{n_}}; }
 
+  // The matrix by rows, each with its ten elements, and the right sides.
+  std::vector<int> const& Cols() const { return cols_; }
+  std::vector<double> const& Coefs() const { return coefs_; }
+  std::vector<double> const& Bounds() const { return bounds_; }
+
   template <class Sink>
   void Generate(Sink& sink) const {
     sink.Reserve(n_, n_, 10 * std::int64_t{n_});

@@ -11,6 +11,8 @@
 
 namespace bench {
 
+struct RawView;
+
 struct RawArrays {
   std::unique_ptr<double[]> colLower, colUpper, objective, rowLower, rowUpper, values;
   std::unique_ptr<char[]> types;
@@ -29,6 +31,16 @@ struct RawArrays {
     values.reset(new double[elementCount]);
   }
 
+  RawView View() const;
+};
+
+// Finished arrays of a model, wherever they lie.
+struct RawView {
+  double const *colLower, *colUpper, *objective, *rowLower, *rowUpper, *values;
+  char const* types;
+  int const *begins, *indices;
+  std::int64_t cols, rows, elements;
+
   // The hand-over: one copy of everything.
   RawArrays Copy() const {
     RawArrays copy;
@@ -36,18 +48,33 @@ struct RawArrays {
     copy.cols = cols;
     copy.rows = rows;
     copy.elements = elements;
-    std::memcpy(copy.colLower.get(), colLower.get(), sizeof(double) * cols);
-    std::memcpy(copy.colUpper.get(), colUpper.get(), sizeof(double) * cols);
-    std::memcpy(copy.objective.get(), objective.get(), sizeof(double) * cols);
-    std::memcpy(copy.types.get(), types.get(), cols);
-    std::memcpy(copy.rowLower.get(), rowLower.get(), sizeof(double) * rows);
-    std::memcpy(copy.rowUpper.get(), rowUpper.get(), sizeof(double) * rows);
-    std::memcpy(copy.begins.get(), begins.get(), sizeof(int) * (rows + 1));
-    std::memcpy(copy.indices.get(), indices.get(), sizeof(int) * elements);
-    std::memcpy(copy.values.get(), values.get(), sizeof(double) * elements);
+    std::memcpy(copy.colLower.get(), colLower, sizeof(double) * cols);
+    std::memcpy(copy.colUpper.get(), colUpper, sizeof(double) * cols);
+    std::memcpy(copy.objective.get(), objective, sizeof(double) * cols);
+    std::memcpy(copy.types.get(), types, cols);
+    std::memcpy(copy.rowLower.get(), rowLower, sizeof(double) * rows);
+    std::memcpy(copy.rowUpper.get(), rowUpper, sizeof(double) * rows);
+    std::memcpy(copy.begins.get(), begins, sizeof(int) * (rows + 1));
+    std::memcpy(copy.indices.get(), indices, sizeof(int) * elements);
+    std::memcpy(copy.values.get(), values, sizeof(double) * elements);
     return copy;
   }
 };
+
+inline RawView RawArrays::View() const {
+  return {.colLower = colLower.get(),
+          .colUpper = colUpper.get(),
+          .objective = objective.get(),
+          .rowLower = rowLower.get(),
+          .rowUpper = rowUpper.get(),
+          .values = values.get(),
+          .types = types.get(),
+          .begins = begins.get(),
+          .indices = indices.get(),
+          .cols = cols,
+          .rows = rows,
+          .elements = elements};
+}
 
 class RawSink {
  public:
