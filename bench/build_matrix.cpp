@@ -1,7 +1,7 @@
 // What blocks cost over the hand-over of finished arrays: A x <= b with a dense and with a sparse matrix, from the
 // matrix in memory to the model in the solver library.
 //
-//     build_matrix [REPEATS]
+//     build_matrix [REPEATS [MODEL]]        one of dense-2000, block-1000k; both without
 //
 // Prints the median processor time of each, their ratio, the time a nonzero and the ratio of peak memory. The matrix
 // itself lies in memory before either begins. The models are compared with the raw ones; a difference ends the program
@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include <vorq>
@@ -157,6 +158,7 @@ void Run(char const* name, Product const& product, Vorq::Envr& envr, int repeats
 int main(int argc, char** argv) {
   int const repeats = argc > 1 ? std::max(1, std::atoi(argv[1])) : 5;
   Vorq::Envr envr(nullptr);
-  Run("dense-2000", DenseProduct(2000), envr, repeats);
-  Run("block-1000k", SparseProduct(1'000'000), envr, repeats);
+  std::string_view const only = argc > 2 ? argv[2] : "";
+  if (only.empty() || only == "dense-2000") Run("dense-2000", DenseProduct(2000), envr, repeats);
+  if (only.empty() || only == "block-1000k") Run("block-1000k", SparseProduct(1'000'000), envr, repeats);
 }

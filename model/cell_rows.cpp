@@ -24,9 +24,10 @@ bool IsPlain(MExpression const& cell) {
 }
 
 bool HasZero(double const* values, std::size_t count) {
-  bool hasZero = false;
-  for (std::size_t i = 0; i < count; ++i) hasZero |= values[i] == 0.0;
-  return hasZero;
+  // A count as wide as the values, so that one operation takes several.
+  std::int64_t zeros = 0;
+  for (std::size_t i = 0; i < count; ++i) zeros += values[i] == 0.0 ? 1 : 0;
+  return zeros > 0;
 }
 
 }  // namespace

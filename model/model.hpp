@@ -407,13 +407,6 @@ class Model {
     ++table.count;
     return item;
   }
-  // Makes room for as many more.
-  template <class Item>
-  void ReserveItems(std::size_t count) {
-    std::vector<Item>& items = core_->Table<Item>().items;
-    std::size_t const needed = items.size() + count;
-    if (needed > items.capacity()) items.reserve(std::max(needed, 2 * items.capacity()));
-  }
   template <class Item, class... Dimension>
   Item Added(int code, char const* text, std::string name, Dimension... dimension) {
     if (!Record(code, text)) return Invalid<Item>();
@@ -425,7 +418,9 @@ class Model {
                              Dimensions const*... dimensions) {
     std::vector<Item> added;
     if (!Record(code, text)) return added;
-    ReserveItems<Item>(names.size());
+    std::vector<Item>& items = core_->Table<Item>().items;
+    std::size_t const needed = items.size() + names.size();
+    if (needed > items.capacity()) items.reserve(std::max(needed, 2 * items.capacity()));
     added.reserve(names.size());
     for (std::size_t i = 0; i < names.size(); ++i) added.push_back(Append<Item>(names[i], dimensions[i]...));
     return added;

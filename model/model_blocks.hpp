@@ -1,6 +1,7 @@
 // Templates of Model that add blocks of items, included by the topics that do.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <utility>
 
@@ -21,7 +22,9 @@ bool IsCountable(NDim<N> const& shape) {
 
 template <class Item, int N>
 MatrixObject<Item, N> Model::AppendBlock(BlockNames const& names, NDim<N> const& shape) {
-  ReserveItems<Item>(names.Pointers().size());
+  std::vector<Item>& items = core_->Table<Item>().items;
+  std::size_t const needed = items.size() + names.Pointers().size();
+  if (needed > items.capacity()) items.reserve(std::max(needed, 2 * items.capacity()));
   auto cells = NdArray<Item, N>::Fresh(shape);
   Item* cell = cells.Store().Get();
   for (char const* name : names.Pointers()) *cell++ = Append<Item>(name);

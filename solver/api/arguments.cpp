@@ -2,6 +2,7 @@
 #include "solver/api/arguments.hpp"
 
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 
 namespace vorqsolver {
@@ -24,16 +25,19 @@ void CheckIndex(int index, int limit, char const* kind) {
 }
 
 void CheckIndices(std::span<int const> indices, int limit, char const* kind) {
-  bool good = true;
-  for (auto const index : indices) good &= static_cast<unsigned>(index) < static_cast<unsigned>(limit);
-  if (good) return;
+  // An index below 0, or the distance of one behind the last, has the sign bit: one operation takes many entries.
+  auto const last = static_cast<unsigned>(limit) - 1;
+  unsigned signs = 0;
+  for (auto const index : indices) signs |= static_cast<unsigned>(index) | (last - static_cast<unsigned>(index));
+  if (static_cast<int>(signs) >= 0) return;
   for (auto const index : indices) CheckIndex(index, limit, kind);
 }
 
 void CheckCoefficients(std::span<double const> values, char const* what) {
-  bool good = true;
-  for (auto const value : values) good &= std::abs(value) < kInfinity;
-  if (good) return;
+  // A count as wide as the entries, so that one operation takes several.
+  std::int64_t badCount = 0;
+  for (auto const value : values) badCount += std::abs(value) < kInfinity ? 0 : 1;
+  if (badCount == 0) return;
   auto const bad = std::ranges::find_if(values, [](double value) { return !(std::abs(value) < kInfinity); });
   Refuse("Argument '", what, "' has the entry ", *bad, " at position ", bad - values.begin(),
          ", where a finite number is needed");

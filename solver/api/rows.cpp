@@ -10,21 +10,16 @@ namespace vorqsolver {
 
 namespace {
 
-void CheckRows(RowBatch const& batch, int colCount) {
+void CheckRows(RowBatch const& batch) {
   auto const count = batch.terms.Count();
   for (int place = 0; place < count; ++place) RangeOf(batch, place);
   CheckNames(count, batch.names);
-  if (batch.terms.ElementCount() == 0) return;
-  Need(batch.coefs, "coefs");
-  for (int place = 0; place < count; ++place) {
-    CheckIndices(batch.terms.Of(place, batch.cols), colCount, "Column");
-    CheckCoefficients(batch.terms.Of(place, batch.coefs), "coefs");
-  }
+  if (batch.terms.ElementCount() > 0) Need(batch.coefs, "coefs");
 }
 
 template <typename Table>
 void Append(Table& rows, RowBatch const& batch) {
-  CheckRows(batch, rows.matrix.ColCount());
+  CheckRows(batch);
   auto const first = rows.Count();
   auto const count = batch.terms.Count();
   ReserveMore(rows.lower, static_cast<std::size_t>(count));
@@ -32,8 +27,13 @@ void Append(Table& rows, RowBatch const& batch) {
   rows.matrix.Reserve(static_cast<std::size_t>(count), batch.terms.ElementCount());
   try {
     SetNames(rows.names, first, count, batch.names);
+    // Terms are checked row by row, right before they are copied, so that they pass through the cache once.
     for (int place = 0; place < count; ++place) {
-      rows.matrix.AppendRow(batch.terms.Of(place, batch.cols), batch.terms.Of(place, batch.coefs));
+      auto const cols = batch.terms.Of(place, batch.cols);
+      auto const coefs = batch.terms.Of(place, batch.coefs);
+      CheckIndices(cols, rows.matrix.ColCount(), "Column");
+      CheckCoefficients(coefs, "coefs");
+      rows.matrix.AppendRow(cols, coefs);
     }
   } catch (...) {
     rows.names.Truncate(first);
