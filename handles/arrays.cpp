@@ -1,4 +1,5 @@
 // The exported factories of arrays.
+#include "handles/affine_cone_builders.hpp"
 #include "handles/builder_arrays.hpp"
 #include "handles/item_arrays.hpp"
 #include "vorqmodel/exports.h"
@@ -45,6 +46,9 @@ Vorq::IExpConeBuilderArray* CreateExpConeBuilderArray() {
 }
 Vorq::IAffineConeArray* CreateAffineConeArray() {
   return Wrap<Vorq::IAffineConeArray>();
+}
+Vorq::IAffineConeBuilderArray* CreateAffineConeBuilderArray() {
+  return Wrap<Vorq::IAffineConeBuilderArray>();
 }
 Vorq::IQConstrArray* CreateQConstrArray() {
   return Wrap<Vorq::IQConstrArray>();

@@ -1,6 +1,7 @@
 // The exported factories of builders.
 #include "handles/builders.hpp"
 
+#include "handles/affine_cone_builders.hpp"
 #include "vorqmodel/exports.h"
 
 using Vorq::Wrap;
@@ -27,6 +28,9 @@ Vorq::IConeBuilder* CreateConeBuilder() {
 }
 Vorq::IExpConeBuilder* CreateExpConeBuilder() {
   return Wrap<Vorq::IExpConeBuilder>();
+}
+Vorq::IAffineConeBuilder* CreateAffineConeBuilder() {
+  return Wrap<Vorq::IAffineConeBuilder>();
 }
 
 }  // extern "C"

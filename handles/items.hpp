@@ -104,18 +104,13 @@ class VorqPsdVar final : public Vorq::MatrixItemHandle<VorqPsdVar, Vorq::IPsdVar
 
   int GetSize() override { return Impl().len; }
   Vorq::INdArray<double, 2>* Get(char const* name) override { return Vorq::WrapArray(Impl().Get(name)); }
-  Vorq::IMPsdExpr<1>* Diagonal(int) override { return NotImplemented("Diagonal"); }
-  Vorq::IMPsdExpr<2>* Pick(Vorq::IView*) override { return NotImplemented("Pick"); }
-  Vorq::IMPsdExpr<1>* Pick(Vorq::INdArray<int, 1>*) override { return NotImplemented("Pick"); }
-  Vorq::IMPsdExpr<1>* Pick(Vorq::INdArray<int, 2>*) override { return NotImplemented("Pick"); }
-  Vorq::IPsdExpr* Sum() override { return NotImplemented("Sum"); }
-  Vorq::IMPsdExpr<2>* ToMPsdExpr() override { return NotImplemented("ToMPsdExpr"); }
-
- private:
-  std::nullptr_t NotImplemented(char const* operation) {
-    SetStatus(Impl().status, Vorq::kInternal, "IPsdVar::%s is not implemented yet", operation);
-    return nullptr;
-  }
+  // Entries as expressions (psd_var_matrix.cpp).
+  Vorq::IMPsdExpr<1>* Diagonal(int offset) override;
+  Vorq::IMPsdExpr<2>* Pick(Vorq::IView* view) override;
+  Vorq::IMPsdExpr<1>* Pick(Vorq::INdArray<int, 1>* indices) override;
+  Vorq::IMPsdExpr<1>* Pick(Vorq::INdArray<int, 2>* coords) override;
+  Vorq::IPsdExpr* Sum() override;
+  Vorq::IMPsdExpr<2>* ToMPsdExpr() override;
 };
 
 class VorqPsdConstraint final

@@ -29,6 +29,14 @@ class ModelHandle : public Handle<VorqModel, IModel, Model> {
   using Handle::Handle;
 
  protected:
+  // False, with the failure recorded, if an object is null.
+  template <class... Objects>
+  bool Given(char const* operation, Objects const*... objects) {
+    if (((objects != nullptr) && ...)) return true;
+    SetStatus(Impl().status, kInvalid, "%s is given a null object", operation);
+    return false;
+  }
+
   // The answer of operations that do not exist yet.
   NoResult NotImplemented(char const* operation) {
     SetStatus(Impl().status, kInternal, "%s is not implemented yet", operation);

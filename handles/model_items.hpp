@@ -98,12 +98,16 @@ class VorqModelItems : public VorqModelSpecialConstraints {
   void SetNames(Vorq::IAffineConeArray* cones, char const* names, std::uint64_t length) override {
     Impl().SetNames(Vorq::Unwrap(cones), names, length);
   }
-  Vorq::IAffineConeBuilder* GetAffineConeBuilder(Vorq::IAffineCone*) override {
-    return NotImplemented("GetAffineConeBuilder");
+  Vorq::IAffineConeBuilder* GetAffineConeBuilder(Vorq::IAffineCone* cone) override {
+    if (!Given("GetAffineConeBuilder", cone)) return Vorq::Wrap<Vorq::IAffineConeBuilder>();
+    return Vorq::Wrap<Vorq::IAffineConeBuilder>(Impl().GetAffineConeBuilder(Vorq::Unwrap(cone)));
   }
-  Vorq::IAffineConeBuilderArray* GetAffineConeBuilders() override { return NotImplemented("GetAffineConeBuilders"); }
-  Vorq::IAffineConeBuilderArray* GetAffineConeBuilders(Vorq::IAffineConeArray*) override {
-    return NotImplemented("GetAffineConeBuilders");
+  Vorq::IAffineConeBuilderArray* GetAffineConeBuilders() override {
+    return Vorq::Wrap<Vorq::IAffineConeBuilderArray>(Impl().GetAffineConeBuilders({}));
+  }
+  Vorq::IAffineConeBuilderArray* GetAffineConeBuilders(Vorq::IAffineConeArray* cones) override {
+    if (!Given("GetAffineConeBuilders", cones)) return Vorq::Wrap<Vorq::IAffineConeBuilderArray>();
+    return Vorq::Wrap<Vorq::IAffineConeBuilderArray>(Impl().GetAffineConeBuilders(Vorq::Unwrap(cones)));
   }
   Vorq::IQConstraint* GetQConstr(int index) override {
     return Vorq::Wrap<Vorq::IQConstraint>(Impl().Get<Vorq::QConstraint>(index));

@@ -1,6 +1,7 @@
 // Operations of the model's handle on the objective, on solving and on what a solve has found.
 #pragma once
 
+#include "handles/matrix_items.hpp"
 #include "handles/model_items.hpp"
 
 class VorqModelSolving : public VorqModelItems {
@@ -33,13 +34,17 @@ class VorqModelSolving : public VorqModelItems {
                  double const* rowBndPen, double const* rowUppPen) override {
     Impl().FeasRelax(Vorq::Unwrap(vars), colLowPen, colUppPen, Vorq::Unwrap(cons), rowBndPen, rowUppPen);
   }
-  void FeasRelax(Vorq::IMVar<1>*, double const*, double const*, Vorq::IMConstr<1>*, double const*,
-                 double const*) override {
-    NotImplemented("FeasRelax");
+  void FeasRelax(Vorq::IMVar<1>* vars, double const* colLowPen, double const* colUppPen, Vorq::IMConstr<1>* cons,
+                 double const* rowBndPen, double const* rowUppPen) override {
+    if (!Given("FeasRelax", vars, cons)) return;
+    Impl().FeasRelax(Vorq::Unwrap(vars), colLowPen, colUppPen, Vorq::Unwrap(cons), rowBndPen, rowUppPen);
   }
-  void FeasRelax(Vorq::IMVar<1>*, Vorq::INdArray<double, 1>*, Vorq::INdArray<double, 1>*, Vorq::IMConstr<1>*,
-                 Vorq::INdArray<double, 1>*, Vorq::INdArray<double, 1>*) override {
-    NotImplemented("FeasRelax");
+  void FeasRelax(Vorq::IMVar<1>* vars, Vorq::INdArray<double, 1>* colLowPen, Vorq::INdArray<double, 1>* colUppPen,
+                 Vorq::IMConstr<1>* cons, Vorq::INdArray<double, 1>* rowBndPen,
+                 Vorq::INdArray<double, 1>* rowUppPen) override {
+    if (!Given("FeasRelax", vars, colLowPen, colUppPen, cons, rowBndPen, rowUppPen)) return;
+    Impl().FeasRelax(Vorq::Unwrap(vars), Vorq::Unwrap(colLowPen), Vorq::Unwrap(colUppPen), Vorq::Unwrap(cons),
+                     Vorq::Unwrap(rowBndPen), Vorq::Unwrap(rowUppPen));
   }
   void FeasRelax(int ifRelaxVars, int ifRelaxCons) override { Impl().FeasRelax(ifRelaxVars != 0, ifRelaxCons != 0); }
   void Tune() override { Impl().Tune(); }

@@ -2,6 +2,7 @@
 // matrices.
 #pragma once
 
+#include "handles/affine_cone_builders.hpp"
 #include "handles/model_building.hpp"
 
 class VorqModelSpecialConstraints : public VorqModelBuilding {
@@ -62,11 +63,13 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
   Vorq::ICone* AddCone(Vorq::IVarArray* vars, int type) override {
     return Vorq::Wrap<Vorq::ICone>(Impl().AddCone(Vorq::Unwrap(vars), type));
   }
-  Vorq::ICone* AddCone(Vorq::IMVar<1>*, int) override {
-    return NotImplemented("AddCone");
+  Vorq::ICone* AddCone(Vorq::IMVar<1>* vars, int type) override {
+    if (!Given("AddCone", vars)) return Vorq::Wrap<Vorq::ICone>(Impl().Invalid<Vorq::Cone>());
+    return Vorq::Wrap<Vorq::ICone>(Impl().AddCone(Vorq::Unwrap(vars), type));
   }
-  Vorq::IConeArray* AddCones(Vorq::IMVar<2>*, int) override {
-    return NotImplemented("AddCones");
+  Vorq::IConeArray* AddCones(Vorq::IMVar<2>* vars, int type) override {
+    if (!Given("AddCones", vars)) return Vorq::Wrap<Vorq::IConeArray>();
+    return Vorq::Wrap<Vorq::IConeArray>(Impl().AddCones(Vorq::Unwrap(vars), type));
   }
   Vorq::IExpCone* AddExpCone(int type, char const* varTypes, char const* prefix) override {
     return Vorq::Wrap<Vorq::IExpCone>(Impl().AddExpCone(type, varTypes, prefix));
@@ -77,38 +80,45 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
   Vorq::IExpCone* AddExpCone(Vorq::IVarArray* vars, int type) override {
     return Vorq::Wrap<Vorq::IExpCone>(Impl().AddExpCone(Vorq::Unwrap(vars), type));
   }
-  Vorq::IExpCone* AddExpCone(Vorq::IMVar<1>*, int) override {
-    return NotImplemented("AddExpCone");
+  Vorq::IExpCone* AddExpCone(Vorq::IMVar<1>* vars, int type) override {
+    if (!Given("AddExpCone", vars)) return Vorq::Wrap<Vorq::IExpCone>(Impl().Invalid<Vorq::ExpCone>());
+    return Vorq::Wrap<Vorq::IExpCone>(Impl().AddExpCone(Vorq::Unwrap(vars), type));
   }
-  Vorq::IExpConeArray* AddExpCones(Vorq::IMVar<2>*, int) override {
-    return NotImplemented("AddExpCones");
+  Vorq::IExpConeArray* AddExpCones(Vorq::IMVar<2>* vars, int type) override {
+    if (!Given("AddExpCones", vars)) return Vorq::Wrap<Vorq::IExpConeArray>();
+    return Vorq::Wrap<Vorq::IExpConeArray>(Impl().AddExpCones(Vorq::Unwrap(vars), type));
   }
-  Vorq::IAffineCone* AddAffineCone(Vorq::IAffineConeBuilder*, char const*) override {
-    return NotImplemented("AddAffineCone");
+
+  // Affine cones.
+  Vorq::IAffineCone* AddAffineCone(Vorq::IAffineConeBuilder* builder, char const* name) override {
+    if (!Given("AddAffineCone", builder)) return NoAffineCone();
+    return Vorq::Wrap<Vorq::IAffineCone>(Impl().AddAffineCone(Vorq::Unwrap(builder), name));
   }
-  Vorq::IAffineCone* AddAffineCone(Vorq::IMLinExpr<1>*, int, char const*) override {
-    return NotImplemented("AddAffineCone");
+  Vorq::IAffineCone* AddAffineCone(Vorq::IMLinExpr<1>* exprs, int type, char const* name) override {
+    return AddAffineConeOf(exprs, type, name);
   }
-  Vorq::IAffineCone* AddAffineCone(std::vector<Vorq::IExpr*>, int, char const*) override {
-    return NotImplemented("AddAffineCone");
+  Vorq::IAffineCone* AddAffineCone(std::vector<Vorq::IExpr*> exprs, int type, char const* name) override {
+    return AddAffineConeOfList<Vorq::MExpression>(exprs, type, name);
   }
-  Vorq::IAffineConeArray* AddAffineCones(Vorq::IMLinExpr<2>*, int, char const*) override {
-    return NotImplemented("AddAffineCones");
+  Vorq::IAffineConeArray* AddAffineCones(Vorq::IMLinExpr<2>* exprs, int type, char const* prefix) override {
+    return AddAffineConesOf(exprs, type, prefix);
   }
-  Vorq::IAffineConeArray* AddAffineCones(Vorq::IMLinExpr<2>*, int, char const*, std::uint64_t) override {
-    return NotImplemented("AddAffineCones");
+  Vorq::IAffineConeArray* AddAffineCones(Vorq::IMLinExpr<2>* exprs, int type, char const* names,
+                                         std::uint64_t length) override {
+    return AddAffineConesOf(exprs, type, names, length);
   }
-  Vorq::IAffineCone* AddAffineCone(Vorq::IMPsdExpr<1>*, int, char const*) override {
-    return NotImplemented("AddAffineCone");
+  Vorq::IAffineCone* AddAffineCone(Vorq::IMPsdExpr<1>* exprs, int type, char const* name) override {
+    return AddAffineConeOf(exprs, type, name);
   }
-  Vorq::IAffineCone* AddAffineCone(std::vector<Vorq::IPsdExpr*>, int, char const*) override {
-    return NotImplemented("AddAffineCone");
+  Vorq::IAffineCone* AddAffineCone(std::vector<Vorq::IPsdExpr*> exprs, int type, char const* name) override {
+    return AddAffineConeOfList<Vorq::PsdExpr>(exprs, type, name);
   }
-  Vorq::IAffineConeArray* AddAffineCones(Vorq::IMPsdExpr<2>*, int, char const*) override {
-    return NotImplemented("AddAffineCones");
+  Vorq::IAffineConeArray* AddAffineCones(Vorq::IMPsdExpr<2>* exprs, int type, char const* prefix) override {
+    return AddAffineConesOf(exprs, type, prefix);
   }
-  Vorq::IAffineConeArray* AddAffineCones(Vorq::IMPsdExpr<2>*, int, char const*, std::uint64_t) override {
-    return NotImplemented("AddAffineCones");
+  Vorq::IAffineConeArray* AddAffineCones(Vorq::IMPsdExpr<2>* exprs, int type, char const* names,
+                                         std::uint64_t length) override {
+    return AddAffineConesOf(exprs, type, names, length);
   }
 
   // Quadratic constraints.
@@ -208,5 +218,27 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
   }
   Vorq::ISymMatrix* GetSymMat(int index) override {
     return Vorq::Wrap<Vorq::ISymMatrix>(Impl().Get<Vorq::SymMatrix>(index));
+  }
+
+ private:
+  Vorq::IAffineCone* NoAffineCone() { return Vorq::Wrap<Vorq::IAffineCone>(Impl().Invalid<Vorq::AffineCone>()); }
+
+  template <class IBlock>
+  Vorq::IAffineCone* AddAffineConeOf(IBlock* exprs, int type, char const* name) {
+    if (!Given("AddAffineCone", exprs)) return NoAffineCone();
+    return Vorq::Wrap<Vorq::IAffineCone>(Impl().AddAffineCone(Vorq::Unwrap(exprs), type, name));
+  }
+  template <class Cell, class IExpression>
+  Vorq::IAffineCone* AddAffineConeOfList(std::vector<IExpression*> const& exprs, int type, char const* name) {
+    for (IExpression const* expr : exprs) {
+      if (!Given("AddAffineCone", expr)) return NoAffineCone();
+    }
+    auto rows = Vorq::BlockOf<Cell>(exprs);
+    return Vorq::Wrap<Vorq::IAffineCone>(Impl().AddAffineCone(rows, type, name));
+  }
+  template <class IBlock, class... Names>
+  Vorq::IAffineConeArray* AddAffineConesOf(IBlock* exprs, int type, Names... names) {
+    if (!Given("AddAffineCones", exprs)) return Vorq::Wrap<Vorq::IAffineConeArray>();
+    return Vorq::Wrap<Vorq::IAffineConeArray>(Impl().AddAffineCones(Vorq::Unwrap(exprs), type, names...));
   }
 };

@@ -25,8 +25,8 @@ std::string ReadName(NameReader read, VORQ_Prob* prob, int idx) {
 }  // namespace
 
 void Item::MarkRemoved() {
+  if (!IsLive()) return;
   ItemRec& record = *record_;
-  if (record.idx < 0) return;
   record.idx = RemovedIndex(record.idx);
   record.prob->dirty = true;
 }
@@ -64,6 +64,7 @@ void FallibleItem::AssignName(ItemKind const& kind, char const* name) {
 }
 
 char const* FallibleItem::FetchName(ItemKind const& kind) const {
+  if (!HasRecord()) return "";
   ItemRec& record = Record();
   if (record.idx >= 0 && record.name.empty()) record.name = ReadName(kind.getName, Prob(), record.idx);
   return record.name.c_str();

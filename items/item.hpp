@@ -13,7 +13,7 @@
 
 namespace Vorq {
 
-// What every kind has. A default-made item holds no record, and may only be assigned to, copied and asked HasRecord.
+// What every kind has. A default-made item holds no record, and reads as one that stands for nothing.
 class Item {
  public:
   Item() = default;
@@ -21,9 +21,10 @@ class Item {
       : record_(MakeShared<ItemRec>(std::move(prob), std::move(name), idx)) {}
 
   bool HasRecord() const { return static_cast<bool>(record_); }
+  // Only with a record.
   ItemRec& Record() const { return *record_; }
-  int Idx() const { return record_->idx; }
-  bool IsLive() const { return record_->idx >= 0; }
+  int Idx() const { return record_ ? record_->idx : kInvalidIndex; }
+  bool IsLive() const { return Idx() >= 0; }
 
   // Marks a live item as removed, for the model's next flush to carry out. Any other item stays as it is.
   void MarkRemoved();

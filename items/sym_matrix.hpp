@@ -27,7 +27,7 @@ class SymMatrix : public FallibleItem {
   static SymMatrix Cached(int dim, int row, int col, double value);
 
   // The index in the model, -1 for a cached matrix.
-  int Idx() const { return cached ? -1 : HasRecord() ? Record().idx : kInvalidIndex; }
+  int Idx() const { return cached ? -1 : Item::Idx(); }
 
   // Appends the entries to `elements` and returns the code of the read; nothing is appended on failure.
   int ReadElements(std::vector<SymMatElement>& elements) const;

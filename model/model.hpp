@@ -27,6 +27,7 @@
 #include "frame/status.hpp"
 #include "items/item_arrays.hpp"
 #include "items/lmi_expr.hpp"
+#include "matrix/affine_cone_builder.hpp"
 #include "matrix/matrix_object.hpp"
 #include "model/cone_problem.hpp"
 #include "model/cut_kinds.hpp"
@@ -111,6 +112,17 @@ class Model {
   void Remove(std::vector<Item>& items) {
     for (Item& item : items) item.MarkRemoved();
   }
+  template <class Item, int N>
+  void Remove(MatrixObject<Item, N> const& block) {
+    for (std::uint64_t i = 0; i < block.GetSize(); ++i) {
+      if (Item* item = FindWithinStore(block.Cells(), i)) item->MarkRemoved();
+    }
+  }
+  // An item that stands for nothing: the result of a failed operation.
+  template <class Item>
+  Item Invalid() const {
+    return Item(core_->prob, std::string(), kInvalidIndex);
+  }
 
   // ---- Variables (model_variables.cpp)
 
@@ -171,11 +183,31 @@ class Model {
   Cone AddCone(int dim, int type, char const* types, char const* prefix);
   Cone AddCone(ConeBuilder const& builder);
   Cone AddCone(VarArray const& vars, int type);
+  Cone AddCone(MVar<1> const& vars, int type);
+  // One cone for each row, up to the first that fails; a failure that stands stops the walk before it begins.
+  ConeArray AddCones(MVar<2> const& vars, int type);
   ConeBuilderArray GetConeBuilders(ConeArray const& cones);
   ExpCone AddExpCone(int type, char const* types, char const* prefix);
   ExpCone AddExpCone(ExpConeBuilder const& builder);
   ExpCone AddExpCone(VarArray const& vars, int type);
+  ExpCone AddExpCone(MVar<1> const& vars, int type);
+  ExpConeArray AddExpCones(MVar<2> const& vars, int type);
   ExpConeBuilderArray GetExpConeBuilders(ExpConeArray const& cones);
+
+  // ---- Affine cones (model_affine_cones.cpp): one expression for each row of the vector that lies in the cone
+
+  // Linear rows stay as they are. Rows with PSD terms are merged in place, also where they turn out to be linear.
+  AffineCone AddAffineCone(MLinExpr<1> const& exprs, int type, char const* name);
+  AffineCone AddAffineCone(MPsdExpr<1>& exprs, int type, char const* name);
+  AffineCone AddAffineCone(AffineConeBuilder& builder, char const* name);
+  // One cone for each row of the block, up to the first that fails. The cones of a prefix are numbered from 0.
+  template <class Cell>
+  AffineConeArray AddAffineCones(MatrixObject<Cell, 2> const& exprs, int type, char const* prefix);
+  template <class Cell>
+  AffineConeArray AddAffineCones(MatrixObject<Cell, 2> const& exprs, int type, char const* names, std::size_t length);
+  // Empty for a cone that is not live.
+  AffineConeBuilder GetAffineConeBuilder(AffineCone const& cone);
+  AffineConeBuilderArray GetAffineConeBuilders(AffineConeArray const& cones);
 
   // ---- Quadratic constraints (model_quadratic_constraints.cpp)
 
@@ -330,6 +362,11 @@ class Model {
 
   void FeasRelax(VarArray const& vars, double const* colLowPen, double const* colUppPen, ConstrArray const& cons,
                  double const* rowBndPen, double const* rowUppPen);
+  // Penalties that are null, or arrays of size 0, leave the bounds hard; an array of size 1 holds for all items.
+  void FeasRelax(MVar<1> const& vars, double const* colLowPen, double const* colUppPen, MConstr<1> const& cons,
+                 double const* rowBndPen, double const* rowUppPen);
+  void FeasRelax(MVar<1> const& vars, NdArray<double, 1> const& colLowPen, NdArray<double, 1> const& colUppPen,
+                 MConstr<1> const& cons, NdArray<double, 1> const& rowBndPen, NdArray<double, 1> const& rowUppPen);
   void FeasRelax(bool relaxVars, bool relaxCons);
 
   void SetMipStart(int count, double const* values);
@@ -394,10 +431,6 @@ class Model {
 
   // ---- Adding: after the solver library's call, with its code.
 
-  template <class Item>
-  Item Invalid() const {
-    return Item(core_->prob, std::string(), kInvalidIndex);
-  }
   // Appends the item that the solver library has just numbered.
   template <class Item, class... Dimension>
   Item& Append(std::string name, Dimension... dimension) {
@@ -520,6 +553,16 @@ class Model {
   PsdConstraint AddPsdRow(PsdExpr& expr, int sense, double bound, double upper, std::string name);
   // Makes a matrix of each coefficient; false at one that fails, those before it staying.
   bool AddMatrices(std::vector<SymMatExpr> const& coeffs, std::vector<int>& matrices, int* dim = nullptr);
+  // Carries out removals and reads what an infinite bound is. False if there is nothing to relax.
+  bool BeginFeasRelax(std::size_t varCount, std::size_t constrCount, double& infinite);
+  void RelaxAll(VarArray const& vars, ConstrArray const& cons, double const* const (&penalties)[4], double infinite);
+  template <class Item, class Cell, class AddRow>
+  std::vector<Item> AddEachRow(MatrixObject<Cell, 2> const& block, AddRow addRow);
+  struct AffineConeData;
+  bool FlattenPsdTerms(MPsdExpr<1> const& exprs, AffineConeData& data);
+  AffineCone AddAffineConeData(AffineConeData const& data, std::string name);
+  bool ReadAffineCone(int index, AffineConeData& data);
+  bool MakeAffineRow(AffineConeData const& data, std::size_t place, PsdExpr& row);
   template <class Reader>
   SymMatrix GetMatrix(Reader read, char const* failed);
   // Adds the term of an item and a matrix, both found by index. False after a failure.

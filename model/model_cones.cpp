@@ -1,4 +1,5 @@
 // Cones and exponential cones: adding, with or without their variables, and reading them back as builders.
+#include "model/block_cones.hpp"
 #include "model/model_var_lists.hpp"
 
 namespace Vorq {
@@ -62,6 +63,15 @@ Cone Model::AddCone(VarArray const& vars, int type) {
   return Added<Cone>(VORQ_AddCones(Prob(), 1, &type, &begin, &count, cols.data()), "Fail to add a cone", std::string());
 }
 
+Cone Model::AddCone(MVar<1> const& vars, int type) {
+  return AddCone(CellsOf(vars), type);
+}
+
+ConeArray Model::AddCones(MVar<2> const& vars, int type) {
+  if (status.Failed()) return {};
+  return AddEachRow<Cone>(vars, [&](MVar<1> const& row, std::uint64_t) { return AddCone(row, type); });
+}
+
 Cone Model::AddCone(ConeBuilder const& builder) {
   return AddCone(builder.vars, builder.type);
 }
@@ -93,6 +103,15 @@ ExpCone Model::AddExpCone(VarArray const& vars, int type) {
   if (!LiveColumns(vars, cols)) return Invalid<ExpCone>();
   return Added<ExpCone>(VORQ_AddExpCones(Prob(), 1, &type, cols.data()), "Fail to add an exponential cone",
                         std::string());
+}
+
+ExpCone Model::AddExpCone(MVar<1> const& vars, int type) {
+  return AddExpCone(CellsOf(vars), type);
+}
+
+ExpConeArray Model::AddExpCones(MVar<2> const& vars, int type) {
+  if (status.Failed()) return {};
+  return AddEachRow<ExpCone>(vars, [&](MVar<1> const& row, std::uint64_t) { return AddExpCone(row, type); });
 }
 
 ExpCone Model::AddExpCone(ExpConeBuilder const& builder) {

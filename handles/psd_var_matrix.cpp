@@ -1,0 +1,39 @@
+// The handle on a PSD variable: its entries as expressions.
+#include "matrix/psd_var_matrix.hpp"
+
+#include "handles/matrix_expressions.hpp"
+
+namespace {
+
+// The answer to an argument that is null.
+template <int N>
+Vorq::IMPsdExpr<N>* RefuseNull(Vorq::PsdVar& var) {
+  SetStatus(var.status, Vorq::kInvalid, "Pick is given a null object");
+  Vorq::MPsdExpr<N> result(Vorq::NDim<N>::Uniform(1), Vorq::PsdExpr());
+  result.GetStatus() = var.status;
+  return Vorq::WrapBlock(std::move(result));
+}
+
+}  // namespace
+
+Vorq::IMPsdExpr<1>* VorqPsdVar::Diagonal(int offset) {
+  return Vorq::WrapBlock(Vorq::Diagonal(Impl(), offset));
+}
+Vorq::IMPsdExpr<2>* VorqPsdVar::Pick(Vorq::IView* view) {
+  if (view == nullptr) return RefuseNull<2>(Impl());
+  return Vorq::WrapBlock(Vorq::Pick(Impl(), Vorq::Unwrap(view)));
+}
+Vorq::IMPsdExpr<1>* VorqPsdVar::Pick(Vorq::INdArray<int, 1>* indices) {
+  if (indices == nullptr) return RefuseNull<1>(Impl());
+  return Vorq::WrapBlock(Vorq::Pick(Impl(), Vorq::Unwrap(indices)));
+}
+Vorq::IMPsdExpr<1>* VorqPsdVar::Pick(Vorq::INdArray<int, 2>* coords) {
+  if (coords == nullptr) return RefuseNull<1>(Impl());
+  return Vorq::WrapBlock(Vorq::PickAt(Impl(), Vorq::Unwrap(coords)));
+}
+Vorq::IPsdExpr* VorqPsdVar::Sum() {
+  return Vorq::Wrap<Vorq::IPsdExpr>(Vorq::Sum(Impl()));
+}
+Vorq::IMPsdExpr<2>* VorqPsdVar::ToMPsdExpr() {
+  return Vorq::WrapBlock(Vorq::ToMPsdExpr(Impl()));
+}
