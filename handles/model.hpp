@@ -10,93 +10,49 @@ class VorqModel final : public VorqModelSolving {
   using VorqModelSolving::VorqModelSolving;
 
   // Removal: lazy, carried out by the next operation that needs the solver library's numbering.
-#define VORQ_REMOVE_BLOCKS(IBlock)               \
-  void Remove(Vorq::IBlock<0>* block) override { \
-    RemoveBlock(block);                          \
-  }                                              \
-  void Remove(Vorq::IBlock<1>* block) override { \
-    RemoveBlock(block);                          \
-  }                                              \
-  void Remove(Vorq::IBlock<2>* block) override { \
-    RemoveBlock(block);                          \
-  }                                              \
-  void Remove(Vorq::IBlock<3>* block) override { \
-    RemoveBlock(block);                          \
-  }
-  VORQ_REMOVE_BLOCKS(IMVar)
-  VORQ_REMOVE_BLOCKS(IMConstr)
-  VORQ_REMOVE_BLOCKS(IMQConstr)
-  VORQ_REMOVE_BLOCKS(IMPsdConstr)
-#undef VORQ_REMOVE_BLOCKS
-  void Remove(Vorq::IVarArray* vars) override {
-    Impl().Remove(Vorq::Unwrap(vars));
-  }
-  void Remove(Vorq::IConstrArray* constrs) override {
-    Impl().Remove(Vorq::Unwrap(constrs));
-  }
-  void Remove(Vorq::ISosArray* soss) override {
-    Impl().Remove(Vorq::Unwrap(soss));
-  }
-  void Remove(Vorq::IConeArray* cones) override {
-    Impl().Remove(Vorq::Unwrap(cones));
-  }
-  void Remove(Vorq::IExpConeArray* cones) override {
-    Impl().Remove(Vorq::Unwrap(cones));
-  }
-  void Remove(Vorq::IAffineConeArray* cones) override {
-    Impl().Remove(Vorq::Unwrap(cones));
-  }
-  void Remove(Vorq::IGenConstrArray* constrs) override {
-    Impl().Remove(Vorq::Unwrap(constrs));
-  }
-  void Remove(Vorq::IQConstrArray* constrs) override {
-    Impl().Remove(Vorq::Unwrap(constrs));
-  }
-  void Remove(Vorq::IPsdVarArray* vars) override {
-    Impl().Remove(Vorq::Unwrap(vars));
-  }
-  void Remove(Vorq::IPsdConstrArray* constrs) override {
-    Impl().Remove(Vorq::Unwrap(constrs));
-  }
-  void Remove(Vorq::ILmiConstrArray* constrs) override {
-    Impl().Remove(Vorq::Unwrap(constrs));
-  }
+  void Remove(Vorq::IMVar<0>* block) override { RemoveBlock(block); }
+  void Remove(Vorq::IMVar<1>* block) override { RemoveBlock(block); }
+  void Remove(Vorq::IMVar<2>* block) override { RemoveBlock(block); }
+  void Remove(Vorq::IMVar<3>* block) override { RemoveBlock(block); }
+  void Remove(Vorq::IMConstr<0>* block) override { RemoveBlock(block); }
+  void Remove(Vorq::IMConstr<1>* block) override { RemoveBlock(block); }
+  void Remove(Vorq::IMConstr<2>* block) override { RemoveBlock(block); }
+  void Remove(Vorq::IMConstr<3>* block) override { RemoveBlock(block); }
+  void Remove(Vorq::IMQConstr<0>* block) override { RemoveBlock(block); }
+  void Remove(Vorq::IMQConstr<1>* block) override { RemoveBlock(block); }
+  void Remove(Vorq::IMQConstr<2>* block) override { RemoveBlock(block); }
+  void Remove(Vorq::IMQConstr<3>* block) override { RemoveBlock(block); }
+  void Remove(Vorq::IMPsdConstr<0>* block) override { RemoveBlock(block); }
+  void Remove(Vorq::IMPsdConstr<1>* block) override { RemoveBlock(block); }
+  void Remove(Vorq::IMPsdConstr<2>* block) override { RemoveBlock(block); }
+  void Remove(Vorq::IMPsdConstr<3>* block) override { RemoveBlock(block); }
+  void Remove(Vorq::IVarArray* vars) override { Impl().Remove(Vorq::Unwrap(vars)); }
+  void Remove(Vorq::IConstrArray* constrs) override { Impl().Remove(Vorq::Unwrap(constrs)); }
+  void Remove(Vorq::ISosArray* soss) override { Impl().Remove(Vorq::Unwrap(soss)); }
+  void Remove(Vorq::IConeArray* cones) override { Impl().Remove(Vorq::Unwrap(cones)); }
+  void Remove(Vorq::IExpConeArray* cones) override { Impl().Remove(Vorq::Unwrap(cones)); }
+  void Remove(Vorq::IAffineConeArray* cones) override { Impl().Remove(Vorq::Unwrap(cones)); }
+  void Remove(Vorq::IGenConstrArray* constrs) override { Impl().Remove(Vorq::Unwrap(constrs)); }
+  void Remove(Vorq::IQConstrArray* constrs) override { Impl().Remove(Vorq::Unwrap(constrs)); }
+  void Remove(Vorq::IPsdVarArray* vars) override { Impl().Remove(Vorq::Unwrap(vars)); }
+  void Remove(Vorq::IPsdConstrArray* constrs) override { Impl().Remove(Vorq::Unwrap(constrs)); }
+  void Remove(Vorq::ILmiConstrArray* constrs) override { Impl().Remove(Vorq::Unwrap(constrs)); }
 
   // Reset, clear, copy.
-  void ResetParam() override {
-    Impl().ResetParam();
-  }
-  void ResetAll() override {
-    Impl().ResetAll();
-  }
-  void Reset() override {
-    Impl().Reset();
-  }
-  void Clear() override {
-    Impl().Clear();
-  }
-  Vorq::IModel* Clone() override {
-    return Vorq::Wrap<Vorq::IModel>(Impl().Clone());
-  }
+  void ResetParam() override { Impl().ResetParam(); }
+  void ResetAll() override { Impl().ResetAll(); }
+  void Reset() override { Impl().Reset(); }
+  void Clear() override { Impl().Clear(); }
+  Vorq::IModel* Clone() override { return Vorq::Wrap<Vorq::IModel>(Impl().Clone()); }
 
   // Callbacks and logging.
-  void SetCallback(Vorq::ICallback*, int) override {
-    NotImplemented("SetCallback");
-  }
-  int SetLogFile(char const* path) override {
-    return Impl().SetLogFile(path);
-  }
-  int SetLogCallback(Vorq::ILogSink* logger) override {
-    return Impl().SetLogCallback(logger);
-  }
+  void SetCallback(Vorq::ICallback*, int) override { NotImplemented("SetCallback"); }
+  int SetLogFile(char const* path) override { return Impl().SetLogFile(path); }
+  int SetLogCallback(Vorq::ILogSink* logger) override { return Impl().SetLogCallback(logger); }
 
   // The last failure; the text is valid until the next one.
-  int GetLastError() override {
-    return Impl().status.Code();
-  }
-  char const* GetErrorMessage() override {
-    return Impl().status.Text();
-  }
+  int GetLastError() override { return Impl().status.Code(); }
+  char const* GetErrorMessage() override { return Impl().status.Text(); }
 
  private:
   template <class IBlock>

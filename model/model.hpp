@@ -556,8 +556,8 @@ class Model {
   // Carries out removals and reads what an infinite bound is. False if there is nothing to relax.
   bool BeginFeasRelax(std::size_t varCount, std::size_t constrCount, double& infinite);
   void RelaxAll(VarArray const& vars, ConstrArray const& cons, double const* const (&penalties)[4], double infinite);
-  template <class Item, class Cell, class AddRow>
-  std::vector<Item> AddEachRow(MatrixObject<Cell, 2> const& block, AddRow addRow);
+  template <class Item, class Cell, class Step>
+  std::vector<Item> AddEachRow(MatrixObject<Cell, 2> const& block, Step addCone);
   struct AffineConeData;
   bool FlattenPsdTerms(MPsdExpr<1> const& exprs, AffineConeData& data);
   AffineCone AddAffineConeData(AffineConeData const& data, std::string name);

@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "items/normalize_name.hpp"
+#include "matrix/nda_from_array.hpp"
 #include "model/block_cones.hpp"
 #include "model/cell_terms.hpp"
 #include "model/matrix_coefficients.hpp"
