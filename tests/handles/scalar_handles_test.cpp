@@ -271,6 +271,7 @@ TEST_F(ScalarHandlesTest, ArraysOfTheOtherBuildersTakeTheirElements) {
   check(Own(CreateGenConstrBuilderArray()), Own(CreateGenConstrBuilder()));
   check(Own(CreateConeBuilderArray()), Own(CreateConeBuilder()));
   check(Own(CreateExpConeBuilderArray()), Own(CreateExpConeBuilder()));
+  check(Own(CreateAffineConeBuilderArray()), Own(CreateAffineConeBuilder()));
 }
 
 TEST_F(ScalarHandlesTest, AColumnArrayCanBeCleared) {
