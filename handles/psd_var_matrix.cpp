@@ -8,10 +8,9 @@ namespace {
 // The answer to an argument that is null.
 template <int N>
 Vorq::IMPsdExpr<N>* RefuseNull(Vorq::PsdVar& var) {
-  SetStatus(var.status, Vorq::kInvalid, "Pick is given a null object");
-  Vorq::MPsdExpr<N> result(Vorq::NDim<N>::Uniform(1), Vorq::PsdExpr());
-  result.GetStatus() = var.status;
-  return Vorq::WrapBlock(std::move(result));
+  constexpr char kText[] = "Pick is given a null object";
+  SetStatus(var.status, Vorq::kInvalid, "%s", kText);
+  return Vorq::WrapBlock(Vorq::MPsdExpr<N>::Failed(kText));
 }
 
 }  // namespace

@@ -16,7 +16,8 @@ MatrixObject<Cell, N>::MatrixObject(NdArray<Cell, N> cells) : cells_(std::move(c
     filled.GetStatus() = std::move(cells_.GetStatus());
     cells_ = std::move(filled);
   } else if constexpr (kIsItem<Cell>) {
-    if (cells_.Find(0)->HasRecord()) return;
+    // A view can lie outside its store, where there is nothing to look at.
+    if (!StaysWithin(cells_.GetShape(), cells_.Store().Block()->count) || cells_.Find(0)->HasRecord()) return;
     cells_.ForEach([](Cell& cell) {
       if (!cell.HasRecord()) cell = DefaultCell<Cell>();
     });

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <string>
 
 namespace Vorq {
 namespace {
@@ -22,12 +23,17 @@ PsdExpr EntryAt(PsdVar const& var, std::uint64_t position) {
   return PsdExpr(var, SymMatrix::Cached(var.dim, row, col, row == col ? 1.0 : 0.5));
 }
 
-// The result of an operation whose failure stands in the status of the variable.
+// Records the failure in both places.
 template <int N>
-MPsdExpr<N> FailedEntries(PsdVar const& var, PsdExpr const& cell = PsdExpr()) {
+MPsdExpr<N> FailedEntries(PsdVar& var, std::string const& text, PsdExpr const& cell = PsdExpr()) {
   MPsdExpr<N> result(NDim<N>::Uniform(1), cell);
-  result.GetStatus() = var.status;
+  for (Status* status : {&var.status, &result.GetStatus()}) SetStatus(*status, kInvalid, "%s", text.c_str());
   return result;
+}
+
+std::string OutOfBound(char const* what, std::int64_t number, PsdVar const& var) {
+  return std::string(what) + " (=" + std::to_string(number) + ") is out of bound for dimension " +
+         std::to_string(var.dim);
 }
 
 // The entries at the positions that positionOf(i) gives for each flat index i of `shape`.
@@ -38,9 +44,7 @@ MPsdExpr<N> EntriesAt(PsdVar& var, NDim<N> const& shape, PositionOf positionOf) 
   for (std::uint64_t i = 0; i < size; ++i) {
     auto const position = static_cast<std::int64_t>(positionOf(i));
     if (position >= 0 && position < end) continue;
-    SetStatus(var.status, kInvalid, "Index (=%lld) is out of bound for dimension %d", static_cast<long long>(position),
-              var.dim);
-    return FailedEntries<N>(var);
+    return FailedEntries<N>(var, OutOfBound("Index", position, var));
   }
   return MPsdExpr<N>(NdArray<PsdExpr, N>::Generated(shape, [&](std::uint64_t i) {
     return EntryAt(var, static_cast<std::uint64_t>(static_cast<std::int64_t>(positionOf(i))));
@@ -64,10 +68,7 @@ PsdExpr Sum(PsdVar const& var) {
 
 MPsdExpr<1> Diagonal(PsdVar& var, int offset) {
   long long const distance = std::llabs(offset);
-  if (distance >= var.dim) {
-    SetStatus(var.status, kInvalid, "Diagonal offset (=%d) is out of bound for dimension %d", offset, var.dim);
-    return FailedEntries<1>(var);
-  }
+  if (distance >= var.dim) return FailedEntries<1>(var, OutOfBound("Diagonal offset", offset, var));
   std::uint64_t const side = SideOf(var);
   auto const skipped = static_cast<std::uint64_t>(distance);
   std::uint64_t const first = offset < 0 ? skipped * side : skipped;
@@ -76,8 +77,7 @@ MPsdExpr<1> Diagonal(PsdVar& var, int offset) {
 
 MPsdExpr<2> Pick(PsdVar& var, View const& view) {
   if (view.Operations().size() > 2) {
-    SetStatus(var.status, kInvalid, "View has more operations than #ND (%d)", 2);
-    return FailedEntries<2>(var, var.dim > 0 ? EntryAt(var, 0) : PsdExpr());
+    return FailedEntries<2>(var, "View has more operations than #ND (2)", var.dim > 0 ? EntryAt(var, 0) : PsdExpr());
   }
   NDim<2> const seen = ShapeOf(var).Apply(view);
   return EntriesAt(var, seen.Clone(), [&](std::uint64_t i) { return seen.Position(i); });

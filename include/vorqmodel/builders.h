@@ -130,17 +130,26 @@ class IGenConstrBuilder {
   virtual void Set(IVar* binVar, int binVal, IExpr* expr, char sense, int type) = 0;
 };
 
+// An affine cone: a vector of expressions that shall lie in a cone, one row for each.
 class IAffineConeBuilder {
  public:
   virtual ~IAffineConeBuilder() = default;
 
+  // The number of rows; 0 before the first Set.
   virtual int GetDim() = 0;
+  // The type of the cone; 0 before the first Set.
   virtual int GetType() = 0;
+  // Without a meaning yet; false.
   virtual bool GetFlag() = 0;
+  // A copy of the linear part of row `i`, and of the whole row, owned by the caller; empty for a row that there is not.
   virtual IExpr* GetExpr(int i) = 0;
   virtual IPsdExpr* GetPsdExpr(int i) = 0;
+  // Copies of the linear parts of all rows, owned by the caller.
   virtual IMLinExpr<1>* GetMLinExpr() = 0;
+  // The rows themselves, owned by the caller: what changes there changes in the builder, until the next Set.
   virtual IMPsdExpr<1>* GetMPsdExpr() = 0;
+  // Each replaces type and rows, the rows by copies. A variable becomes a row with coefficient 1. A null argument, or a
+  // null in a list, changes nothing.
   virtual void Set(IMPsdExpr<1>* exprs, int type) = 0;
   virtual void Set(std::vector<IPsdExpr*> exprs, int type) = 0;
   virtual void Set(IMLinExpr<1>* exprs, int type) = 0;

@@ -140,7 +140,10 @@ class IPsdVar {
   virtual void GetInfo(char const* name, double* out, int size) = 0;
   // The matrix of an information, GetDim() by GetDim(). The caller owns the result.
   virtual INdArray<double, 2>* Get(char const* name) = 0;
-  // Single entries and sums of the matrix as expressions, owned by the caller.
+  // Entries of the matrix as expressions, owned by the caller: a diagonal, above the main one for a positive offset;
+  // those of a view; those at positions counted row by row; those at the coordinates that the rows of an array tell,
+  // negative ones counted from the end; their sum; all of them. What lies outside the matrix, and a null argument, is
+  // code 3, in the status of the result too, which is then of one cell.
   virtual IMPsdExpr<1>* Diagonal(int offset) = 0;
   virtual IMPsdExpr<2>* Pick(IView* view) = 0;
   virtual IMPsdExpr<1>* Pick(INdArray<int, 1>* indices) = 0;

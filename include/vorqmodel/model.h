@@ -223,7 +223,8 @@ class IModel {
   virtual ICone* AddCone(IVarArray* vars, int type) = 0;
   virtual ICone* AddCone(IMVar<1>* vars, int type) = 0;
 
-  // One cone for each row.
+  // One cone for each row. A row that fails is the last, with an invalid item at the end of the array; an earlier
+  // failure that stands stops the operation.
   virtual IConeArray* AddCones(IMVar<2>* vars, int type) = 0;
 
   // Type 3 primal (x0 at least x1 exp(x2 / x1)), 4 dual, on three variables. The form with `varTypes` makes them, with
@@ -233,15 +234,18 @@ class IModel {
   virtual IExpCone* AddExpCone(IVarArray* vars, int type) = 0;
   virtual IExpCone* AddExpCone(IMVar<1>* vars, int type) = 0;
 
-  // One cone for each row.
+  // As AddCones.
   virtual IExpConeArray* AddExpCones(IMVar<2>* vars, int type) = 0;
 
-  // The values of the expressions lie in the cone.
+  // The values of the expressions lie in the cone, one expression a row. PSD expressions, those of a builder included,
+  // are merged in place, each of their terms makes a matrix, and an earlier failure that stands stops the operation;
+  // those of a list are copied.
   virtual IAffineCone* AddAffineCone(IAffineConeBuilder* builder, char const* name) = 0;
   virtual IAffineCone* AddAffineCone(IMLinExpr<1>* exprs, int type, char const* name) = 0;
   virtual IAffineCone* AddAffineCone(std::vector<IExpr*> exprs, int type, char const* name) = 0;
 
-  // One cone for each row.
+  // One cone for each row, up to the first that fails, whose invalid item ends the array. The names of a prefix are
+  // prefix(0), prefix(1) and so on in each call; too short a names buffer is code 3, and adds nothing.
   virtual IAffineConeArray* AddAffineCones(IMLinExpr<2>* exprs, int type, char const* prefix) = 0;
   virtual IAffineConeArray* AddAffineCones(IMLinExpr<2>* exprs, int type, char const* names, std::uint64_t length) = 0;
   virtual IAffineCone* AddAffineCone(IMPsdExpr<1>* exprs, int type, char const* name) = 0;
@@ -506,6 +510,7 @@ class IModel {
   virtual IAffineCone* GetAffineConeByName(char const* name) = 0;
   virtual IAffineConeArray* GetAffineCones() = 0;
   virtual void SetNames(IAffineConeArray* cones, char const* names, std::uint64_t length) = 0;
+  // Empty for a cone that is not live, without a failure.
   virtual IAffineConeBuilder* GetAffineConeBuilder(IAffineCone* cone) = 0;
   virtual IAffineConeBuilderArray* GetAffineConeBuilders() = 0;
   virtual IAffineConeBuilderArray* GetAffineConeBuilders(IAffineConeArray* cones) = 0;
@@ -599,6 +604,8 @@ class IModel {
   // relaxes all variables' bounds, all constraints, or both, with penalty 1.
   virtual void FeasRelax(IVarArray* vars, double const* colLowPen, double const* colUppPen, IConstrArray* cons,
                          double const* rowBndPen, double const* rowUppPen) = 0;
+  // Of arrays of numbers, one of size 0 leaves its bounds hard, and one of size 1 holds for all items; any other size
+  // than that of the block is code 3.
   virtual void FeasRelax(IMVar<1>* vars, double const* colLowPen, double const* colUppPen, IMConstr<1>* cons,
                          double const* rowBndPen, double const* rowUppPen) = 0;
   virtual void FeasRelax(IMVar<1>* vars, INdArray<double, 1>* colLowPen, INdArray<double, 1>* colUppPen,

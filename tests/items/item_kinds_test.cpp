@@ -318,5 +318,57 @@ TEST_F(ItemKindsTest, AssigningAProblemDeletesTheOldOneFirst) {
   EXPECT_CALLS(double_, {});
 }
 
+// Elements of arrays that were never given an item.
+template <class Item>
+void CheckWithoutRecord() {
+  Item item;
+  EXPECT_FALSE(item.HasRecord());
+  EXPECT_EQ(item.Idx(), -2);
+  EXPECT_FALSE(item.IsLive());
+  item.MarkRemoved();
+  EXPECT_EQ(item.Idx(), -2);
+  Item const copy = item;
+  EXPECT_EQ(copy.Idx(), -2);
+}
+template <class Item>
+void CheckNameWithoutRecord(std::string const& invalid) {
+  CheckWithoutRecord<Item>();
+  Item item;
+  EXPECT_STREQ(item.GetName(), "");
+  item.SetName("a");
+  EXPECT_STREQ(item.status.Text(), invalid.c_str());
+}
+
+TEST_F(ItemKindsTest, ItemsWithoutARecordReadAsInvalid) {
+  CheckNameWithoutRecord<Var>("(INVALID) Invalid variable");
+  CheckNameWithoutRecord<Constraint>("(INVALID) Invalid constraint");
+  CheckNameWithoutRecord<QConstraint>("(INVALID) Invalid constraint");
+  CheckNameWithoutRecord<PsdVar>("(INVALID) Invalid PSD variable");
+  CheckNameWithoutRecord<PsdConstraint>("(INVALID) Invalid constraint");
+  CheckNameWithoutRecord<LmiConstraint>("(INVALID) Invalid LMI constraint");
+  CheckNameWithoutRecord<GenConstr>("(INVALID) Invalid general constraint");
+  CheckNameWithoutRecord<AffineCone>("(INVALID) Invalid affine cone");
+  CheckWithoutRecord<Sos>();
+  CheckWithoutRecord<Cone>();
+  CheckWithoutRecord<ExpCone>();
+  CheckWithoutRecord<SymMatrix>();
+  EXPECT_CALLS(double_, {});
+}
+
+TEST_F(ItemKindsTest, ReadsOfItemsWithoutARecordFail) {
+  Var var;
+  EXPECT_EQ(var.Get("Value"), -2147483648.0);
+  EXPECT_EQ(Report(var.status), "3 (INVALID) Invalid variable");
+  EXPECT_EQ(var.GetType(), 0);
+  Constraint constr;
+  constr.Set("LB", 1.0);
+  EXPECT_EQ(Report(constr.status), "3 (INVALID) Invalid constraint");
+  LmiConstraint lmi;
+  lmi.SetRhs(SymMatrix());
+  EXPECT_EQ(Report(lmi.status), "3 (INVALID) RHS is an invalid SymMatrix with index -2");
+  EXPECT_EQ(Print(Vorq::Expr(var, 1.0)), "");
+  EXPECT_CALLS(double_, {});
+}
+
 }  // namespace
 }  // namespace vorqtest

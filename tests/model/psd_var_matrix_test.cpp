@@ -34,11 +34,14 @@ class PsdVarMatrixTest : public vorqtest::MatrixFormsTest {
     return text.str();
   }
 
-  std::unique_ptr<Vorq::INdArray<int, 1>> Positions(std::vector<int> values) {
-    return Own(CreateNdArrayInt1WithData(values.data(), static_cast<int>(values.size())));
+  std::unique_ptr<Vorq::INdArray<int, 1>> Positions(std::vector<int> const& values) {
+    auto const shape = Own(factory_->CreateNDim(values.size()));
+    return Own(factory_->CreateNdArray(shape.get(), values.data(), values.size()));
   }
-  std::unique_ptr<Vorq::INdArray<int, 2>> Coords(int rows, int cols, std::vector<int> values) {
-    return Own(CreateNdArrayInt2WithData(values.data(), rows, cols));
+  std::unique_ptr<Vorq::INdArray<int, 2>> Coords(std::uint64_t rows, std::uint64_t cols,
+                                                 std::vector<int> const& values) {
+    auto const shape = Own(factory_->CreateNDim(rows, cols));
+    return Own(factory_->CreateNdArray(shape.get(), values.data(), values.size()));
   }
 
   using Texts = std::vector<std::string>;

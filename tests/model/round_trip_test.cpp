@@ -87,6 +87,12 @@ std::string Text(Vorq::IPsdConstrBuilder* builder) {
   out << Text(Own(builder->GetPsdExpr()).get()) << ' ' << builder->GetSense() << ' ' << builder->GetRange();
   return out.str();
 }
+std::string Text(Vorq::IAffineConeBuilder* builder) {
+  std::ostringstream out;
+  out << "type " << builder->GetType() << ':';
+  for (int i = 0; i < builder->GetDim(); ++i) out << " [" << Text(Own(builder->GetPsdExpr(i)).get()) << ']';
+  return out.str();
+}
 std::string Text(Vorq::IGenConstrBuilder* builder) {
   std::ostringstream out;
   out << Own(builder->GetBinVar())->GetName() << " = " << builder->GetBinVal() << " (" << builder->GetType()
@@ -110,6 +116,7 @@ class RoundTripTest : public testing::Test {
     AddCones();
     AddQuadraticParts();
     AddSemidefiniteParts();
+    AddAffineCones();
     EXPECT_EQ(model_->GetLastError(), 0) << model_->GetErrorMessage();
   }
 
@@ -168,11 +175,24 @@ class RoundTripTest : public testing::Test {
     Own(model_->AddLmiConstr(withConstant.get(), "l1"));  // matrices 8 and 9
   }
 
+  void AddAffineCones() {
+    auto const linear = Own(CreateLinExpr(x_.get(), 2.0));
+    linear->AddTerm(z_.get(), -1.0);
+    linear->AddConstant(4.0);
+    auto const constant = Own(CreateExpr(3.0));
+    Own(model_->AddAffineCone(std::vector<Vorq::IExpr*>{constant.get(), linear.get()}, 1, "a0"));
+    auto const psd = Own(CreatePsdExpr4(second_.get(), eye_.get()));
+    psd->AddTerm(y_.get(), 1.5);
+    auto const row = Own(CreatePsdExpr3(linear.get()));
+    Own(model_->AddAffineCone(std::vector<Vorq::IPsdExpr*>{psd.get(), row.get(), psd.get()}, 2, "a1"));  // 10 and 11
+  }
+
   // All builders of all kinds.
   static std::string Everything(Vorq::IModel& model) {
     std::string text = Texts(Own(model.GetSosBuilders())) + Texts(Own(model.GetGenConstrBuilders())) +
                        Texts(Own(model.GetConeBuilders())) + Texts(Own(model.GetExpConeBuilders())) +
-                       Texts(Own(model.GetQConstrBuilders())) + Texts(Own(model.GetPsdConstrBuilders()));
+                       Texts(Own(model.GetAffineConeBuilders())) + Texts(Own(model.GetQConstrBuilders())) +
+                       Texts(Own(model.GetPsdConstrBuilders()));
     auto const lmis = Own(model.GetLmiConstrs());
     for (int i = 0; i < lmis->Size(); ++i) {
       text += Text(Own(model.GetLmiRow(Own(lmis->Get(i)).get())).get()) + '\n';
@@ -200,6 +220,8 @@ constexpr char kEverything[] =
     "type 2 z y x\n"
     "type 3 x y z\n"
     "type 4 z y x\n"
+    "type 1: [3] [4 + 2 x + -1 z]\n"
+    "type 2: [0 + 1.5 y + (1 #10) Y] [4 + 2 x + -1 z] [0 + 1.5 y + (1 #11) Y]\n"
     "-5 + 4 z + 2 y z + 3 y y L\n"
     "1 + 4 z + 2 y z + 3 y y G\n"
     "-3 + 1.5 z + (1 #2) X + (1 #3) Y G 0\n"
@@ -217,7 +239,7 @@ TEST_F(RoundTripTest, ACopyHoldsTheSame) {
   EXPECT_EQ(Everything(*copy), kEverything);
   EXPECT_EQ(Own(copy->GetPsdVar(1))->GetLen(), 4);
   EXPECT_EQ(Own(copy->GetLmiConstr(1))->GetDim(), 2);
-  EXPECT_EQ(Own(copy->GetSymMat(9))->GetDim(), 2);
+  EXPECT_EQ(Own(copy->GetSymMat(11))->GetDim(), 2);
 }
 
 // The first item of each kind goes, and the second takes its index.
@@ -227,6 +249,7 @@ TEST_F(RoundTripTest, RemovalLeavesTheSecondOfEachKind) {
   Own(model_->GetGenConstr(0))->Remove();
   Own(model_->GetCone(0))->Remove();
   Own(model_->GetExpCone(0))->Remove();
+  Own(model_->GetAffineCone(0))->Remove();
   Own(model_->GetQConstr(0))->Remove();
   Own(model_->GetPsdConstr(0))->Remove();
   Own(model_->GetLmiConstr(0))->Remove();
@@ -235,12 +258,14 @@ TEST_F(RoundTripTest, RemovalLeavesTheSecondOfEachKind) {
       "b = 0 (0): -6 + 2 x + -1 y G\n"
       "type 2 z y x\n"
       "type 4 z y x\n"
+      "type 2: [0 + 1.5 y + (1 #10) Y] [4 + 2 x + -1 z] [0 + 1.5 y + (1 #11) Y]\n"
       "1 + 4 z + 2 y z + 3 y y G\n"
       "-2 + 1.5 z + (1 #4) X + (1 #5) Y R 3\n"
       "(1 #9) + (1 #8) z\n"
       "1 + 4 z + 2 y z + 3 y y\n";
   EXPECT_EQ(Everything(*model_), kSeconds);  // the marks alone hide the items
-  for (char const* counter : {"Soss", "Indicators", "Cones", "ExpCones", "QConstrs", "PSDConstrs", "LMIConstrs"}) {
+  for (char const* counter :
+       {"Soss", "Indicators", "Cones", "ExpCones", "AffineCones", "QConstrs", "PSDConstrs", "LMIConstrs"}) {
     EXPECT_EQ(model_->GetIntAttr(counter), 1) << counter;
   }
   EXPECT_EQ(psdConstr->GetIdx(), 0);
@@ -259,6 +284,8 @@ TEST_F(RoundTripTest, RemovedColumnLeavesItsTerms) {
             "type 2 z y weights 1 2\n"
             "b = 1 (0): -4 + -1 y L\n"
             "b = 0 (0): -6 + -1 y G\n"
+            "type 1: [3] [4 + -1 z]\n"
+            "type 2: [0 + 1.5 y + (1 #10) Y] [4 + -1 z] [0 + 1.5 y + (1 #11) Y]\n"
             "-5 + 4 z + 2 y z + 3 y y L\n"
             "1 + 4 z + 2 y z + 3 y y G\n"
             "-3 + 1.5 z + (1 #2) X + (1 #3) Y G 0\n"
@@ -273,6 +300,10 @@ TEST_F(RoundTripTest, RemovedPsdVariableLeavesItsTerms) {
   EXPECT_EQ(model_->GetIntAttr("PSDCols"), 1);
   EXPECT_EQ(second_->GetIdx(), 0);
   EXPECT_EQ(Texts(Own(model_->GetPsdConstrBuilders())), "-3 + 1.5 z + (1 #3) Y G 0\n-2 + 1.5 z + (1 #5) Y R 3\n");
+  second_->Remove();
+  EXPECT_EQ(model_->GetIntAttr("PSDCols"), 0);
+  EXPECT_EQ(Texts(Own(model_->GetAffineConeBuilders())),
+            "type 1: [3] [4 + 2 x + -1 z]\ntype 2: [0 + 1.5 y] [4 + 2 x + -1 z] [0 + 1.5 y]\n");
 }
 
 // The column goes before the cone: the cone stays with a gap until it is removed too.
@@ -301,6 +332,9 @@ TEST_F(RoundTripTest, BuildersMakeTheSameAgain) {
     Own(other->AddExpCone(Own(expCones->Get(i)).get()));
     Own(other->AddQConstr(Own(quads->Get(i)).get(), nullptr));
   }
+  auto const affine = Own(model_->GetAffineConeBuilders());
+  Own(other->AddAffineCone(Own(affine->Get(0)).get(), nullptr));
+  EXPECT_EQ(Text(Own(Own(other->GetAffineConeBuilders())->Get(0)).get()), Text(Own(affine->Get(0)).get()));
   Own(other->AddGenConstrIndicators(Own(model_->GetGenConstrBuilders()).get(), "g"));
   EXPECT_EQ(other->GetLastError(), 0) << other->GetErrorMessage();
   EXPECT_EQ(Texts(Own(other->GetSosBuilders())), Texts(soss));
@@ -316,6 +350,7 @@ TEST_F(RoundTripTest, NamesFindTheirItems) {
   EXPECT_EQ(Own(model_->GetPsdVarByName("Y"))->GetIdx(), 1);
   EXPECT_EQ(Own(model_->GetPsdConstrByName("p1"))->GetIdx(), 1);
   EXPECT_EQ(Own(model_->GetLmiConstrByName("l1"))->GetIdx(), 1);
+  EXPECT_EQ(Own(model_->GetAffineConeByName("a1"))->GetIdx(), 1);
 }
 
 TEST_F(RoundTripTest, NewNamesAreFound) {
@@ -329,12 +364,14 @@ TEST_F(RoundTripTest, NewNamesAreFound) {
   EXPECT_EQ(Own(model_->GetPsdVarByName("f"))->GetIdx(), 1);
   EXPECT_EQ(Own(model_->GetPsdConstrByName("h"))->GetIdx(), 1);
   EXPECT_EQ(Own(model_->GetLmiConstrByName("j"))->GetIdx(), 1);
+  model_->SetNames(Own(model_->GetAffineCones()).get(), "k\0l", 4);
+  EXPECT_EQ(Own(model_->GetAffineConeByName("l"))->GetIdx(), 1);
 }
 
 TEST_F(RoundTripTest, ClearLeavesNothingOfAnyKind) {
   model_->Clear();
-  for (char const* counter : {"Cols", "Soss", "Indicators", "Cones", "ExpCones", "QConstrs", "PSDCols", "PSDConstrs",
-                              "LMIConstrs", "SymMats"}) {
+  for (char const* counter : {"Cols", "Soss", "Indicators", "Cones", "ExpCones", "AffineCones", "QConstrs", "PSDCols",
+                              "PSDConstrs", "LMIConstrs", "SymMats"}) {
     EXPECT_EQ(model_->GetIntAttr(counter), 0) << counter;
   }
   EXPECT_EQ(Everything(*model_), "0\n");
@@ -376,7 +413,7 @@ TEST_F(RoundTripTest, PsdObjectiveReadsBack) {
   objective->AddTerm(y_.get(), 2.5);
   objective->AddConstant(7.0);
   model_->SetPsdObjective(objective.get(), 1);
-  EXPECT_EQ(Text(Own(model_->GetPsdObjective()).get()), "7 + 2.5 y + (1 #10) Y");
+  EXPECT_EQ(Text(Own(model_->GetPsdObjective()).get()), "7 + 2.5 y + (1 #12) Y");
   model_->DelPsdObj();
   EXPECT_EQ(Text(Own(model_->GetPsdObjective()).get()), "7 + 2.5 y");
   model_->DelQuadObj();
