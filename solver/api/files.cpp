@@ -9,12 +9,17 @@
 #include "frame/vorq_solver.h"
 #include "solver/api/guard.hpp"
 #include "solver/files/basis_file.hpp"
+#include "solver/files/binary_file.hpp"
+#include "solver/files/cbf_reader.hpp"
+#include "solver/files/cbf_writer.hpp"
 #include "solver/files/lp_reader.hpp"
 #include "solver/files/lp_writer.hpp"
 #include "solver/files/mps_reader.hpp"
 #include "solver/files/mps_writer.hpp"
+#include "solver/files/nl_writer.hpp"
 #include "solver/files/output_file.hpp"
 #include "solver/files/parameter_file.hpp"
+#include "solver/files/sdpa_reader.hpp"
 #include "solver/files/solution_file.hpp"
 #include "solver/files/text_source.hpp"
 
@@ -47,6 +52,12 @@ std::string SizeText(ProblemData const& data) {
       {data.indicators.size(), "indicators"},
       {static_cast<std::size_t>(data.lazyConstraints.Count()), "lazy constraints"},
       {static_cast<std::size_t>(data.userCuts.Count()), "user cuts"},
+      {data.cones.size(), "cones"},
+      {data.expCones.size(), "exponential cones"},
+      {data.affineCones.size(), "affine cones"},
+      {data.psdDims.size(), "PSD variables"},
+      {data.psdConstraints.size(), "PSD constraints"},
+      {data.lmiConstraints.size(), "LMI constraints"},
   };
   for (auto const& [count, kind] : others) {
     if (count > 0) text += Text(", ", count, " ", kind);
@@ -123,11 +134,29 @@ int VORQ_ReadMps(VORQ_Prob* prob, char const* path) {
 int VORQ_ReadLp(VORQ_Prob* prob, char const* path) {
   return ReadProblem(prob, path, ReadLp);
 }
+int VORQ_ReadSDPA(VORQ_Prob* prob, char const* path) {
+  return ReadProblem(prob, path, ReadSdpa);
+}
+int VORQ_ReadCbf(VORQ_Prob* prob, char const* path) {
+  return ReadProblem(prob, path, ReadCbf);
+}
+int VORQ_ReadBin(VORQ_Prob* prob, char const* path) {
+  return ReadProblem(prob, path, ReadBinary);
+}
 int VORQ_WriteMps(VORQ_Prob* prob, char const* path) {
   return WriteProblem(prob, path, WriteMps);
 }
 int VORQ_WriteLp(VORQ_Prob* prob, char const* path) {
   return WriteProblem(prob, path, WriteLp);
+}
+int VORQ_WriteCbf(VORQ_Prob* prob, char const* path) {
+  return WriteProblem(prob, path, WriteCbf);
+}
+int VORQ_WriteBin(VORQ_Prob* prob, char const* path) {
+  return WriteProblem(prob, path, WriteBinary);
+}
+int VORQ_WriteNL(VORQ_Prob* prob, char const* path) {
+  return WriteProblem(prob, path, WriteNl);
 }
 
 int VORQ_WriteMpsStr(VORQ_Prob* prob, char* buffer, int capacity, int* required) {
@@ -221,26 +250,8 @@ int VORQ_WriteParam(VORQ_Prob* prob, char const* path) {
   });
 }
 
-int VORQ_ReadSDPA(VORQ_Prob* prob, char const* path) {
-  return Guard(prob, [&] { RefuseFormat(path, "read", "SDPA files"); });
-}
-int VORQ_ReadCbf(VORQ_Prob* prob, char const* path) {
-  return Guard(prob, [&] { RefuseFormat(path, "read", "CBF files"); });
-}
-int VORQ_ReadBin(VORQ_Prob* prob, char const* path) {
-  return Guard(prob, [&] { RefuseFormat(path, "read", "binary files"); });
-}
 int VORQ_ReadTune(VORQ_Prob* prob, char const* path) {
   return Guard(prob, [&] { RefuseFormat(path, "read", "tuning files"); });
-}
-int VORQ_WriteCbf(VORQ_Prob* prob, char const* path) {
-  return Guard(prob, [&] { RefuseFormat(path, "write", "CBF files"); });
-}
-int VORQ_WriteBin(VORQ_Prob* prob, char const* path) {
-  return Guard(prob, [&] { RefuseFormat(path, "write", "binary files"); });
-}
-int VORQ_WriteNL(VORQ_Prob* prob, char const* path) {
-  return Guard(prob, [&] { RefuseFormat(path, "write", "NL files"); });
 }
 int VORQ_WriteIIS(VORQ_Prob* prob, char const* path) {
   return Guard(prob, [&] { RefuseFormat(path, "write", "IIS files"); });

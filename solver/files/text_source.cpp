@@ -36,6 +36,22 @@ char Lower(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
+constexpr std::size_t kMostBytes = std::size_t{4} << 30;
+constexpr std::size_t kAlwaysUnpacked = std::size_t{64} << 20;
+constexpr std::size_t kMostPacking = 200;
+
+void CheckSize(TextSource const& source, gzFile file) {
+  auto const size = source.text.size();
+  if (size > kMostBytes)
+    throw Failure(VORQ_FILE, Text(source.name, ": the text is larger than ", kMostBytes, " bytes"));
+  if (size <= kAlwaysUnpacked || gzdirect(file) == 1) return;
+  auto const packed = static_cast<std::size_t>(gzoffset(file));
+  if (size > kMostPacking * packed) {
+    throw Failure(VORQ_FILE,
+                  Text(source.name, ": the packed file unpacks to more than ", kMostPacking, " times its size"));
+  }
+}
+
 }  // namespace
 
 TextSource LoadText(std::string const& path) {
@@ -52,6 +68,7 @@ TextSource LoadText(std::string const& path) {
     if (count < 0) throw Failure(VORQ_FILE, Text(path, ": ", GzipError(file.get())));
     if (count == 0) break;
     source.text.append(block.data(), static_cast<std::size_t>(count));
+    CheckSize(source, file.get());
   }
   // A packed file that is cut off reads to its end without an error; only the state tells.
   int code = Z_OK;
@@ -126,6 +143,20 @@ double FiniteNumberAt(TextSource const& source, std::size_t line, std::string_vi
   double const value = NumberAt(source, line, text);
   if (std::abs(value) >= kInfinity) RefuseText(source, line, "value '", text, "' is not finite");
   return value;
+}
+
+int IntegerAt(TextSource const& source, std::size_t line, std::string_view text) {
+  auto const digits = text.starts_with('+') && !text.starts_with("+-") ? text.substr(1) : text;
+  int value = 0;
+  auto const end = digits.data() + digits.size();
+  auto const [stop, error] = std::from_chars(digits.data(), end, value);
+  if (error == std::errc::result_out_of_range) RefuseText(source, line, "number '", text, "' is out of range");
+  if (error != std::errc() || stop != end) RefuseText(source, line, "'", text, "' is not a whole number");
+  return value;
+}
+
+std::size_t MostClaimedItems(TextSource const& source) {
+  return 1'000'000 + source.text.size();
 }
 
 }  // namespace vorqsolver

@@ -15,7 +15,8 @@ struct TextSource {
   std::string text;
 };
 
-// Reads the whole file. Fails with VORQ_FILE where it cannot be opened, read or unpacked.
+// Reads the whole file. Fails with VORQ_FILE where it cannot be opened, read or unpacked, and for more than 4 GiB of
+// text. A packed file may unpack to 64 MiB, beyond that to 200 times its own size: more is no problem but an attack.
 TextSource LoadText(std::string const& path);
 
 // The text without a byte order mark. Fails with VORQ_FILE for a text with zero bytes.
@@ -76,5 +77,12 @@ double NumberAt(TextSource const& source, std::size_t line, std::string_view tex
 
 // As NumberAt, but infinite values are refused.
 double FiniteNumberAt(TextSource const& source, std::size_t line, std::string_view text);
+
+// A whole number in the range of an int.
+int IntegerAt(TextSource const& source, std::size_t line, std::string_view text);
+
+// How many items a file may claim without stating them one by one, such as free columns: a million, and beyond that as
+// many as the file has bytes. So a short file cannot ask for all memory.
+std::size_t MostClaimedItems(TextSource const& source);
 
 }  // namespace vorqsolver

@@ -26,6 +26,12 @@ std::optional<int> NameList::Find(std::string_view name) const {
   return found->second;
 }
 
+int NameList::End() const {
+  auto end = names_.size();
+  while (end > 0 && names_[end - 1].empty()) --end;
+  return static_cast<int>(end);
+}
+
 void NameList::Set(int position, std::string_view name) {
   auto const place = static_cast<std::size_t>(position);
   if (place >= names_.size()) {

@@ -21,6 +21,9 @@ class NameList {
   // The first position that bears `name`; none for the empty name.
   std::optional<int> Find(std::string_view name) const;
 
+  // One behind the last position that bears a name.
+  int End() const;
+
   void Set(int position, std::string_view name);
   void Clear();
 

@@ -10,9 +10,15 @@
 
 namespace vorqsolver::test {
 
+// The name, or the number where there is none.
+inline std::string ColumnName(ProblemData const& data, int col) {
+  auto const name = data.columns.names.Get(col);
+  return name.empty() ? Text("#", col) : std::string(name);
+}
+
 inline std::string Terms(ProblemData const& data, std::vector<LinearTerm> const& terms) {
   std::string text;
-  for (auto const& term : MergedTerms(terms)) text += Text(" ", term.value, "*", data.columns.names.Get(term.col));
+  for (auto const& term : MergedTerms(terms)) text += Text(" ", term.value, "*", ColumnName(data, term.col));
   return text;
 }
 
@@ -25,7 +31,7 @@ inline std::string Terms(ProblemData const& data, SparseMatrix::View row) {
 inline std::string Products(ProblemData const& data, std::vector<QuadTerm> const& terms) {
   std::string text;
   for (auto const& term : MergedTerms(terms)) {
-    text += Text(" ", term.value, "*", data.columns.names.Get(term.row), "*", data.columns.names.Get(term.col));
+    text += Text(" ", term.value, "*", ColumnName(data, term.row), "*", ColumnName(data, term.col));
   }
   return text;
 }
@@ -37,6 +43,57 @@ std::string DescribeRows(ProblemData const& data, AnyRows const& rows, char cons
     auto const k = static_cast<std::size_t>(i);
     text += Text(kind, " ", rows.names.Get(i), " [", rows.lower[k], ",", rows.upper[k], "]",
                  Terms(data, rows.matrix.Row(i)), "\n");
+  }
+  return text;
+}
+
+inline std::string Matrix(ProblemData const& data, int matrix) {
+  if (matrix < 0) return " none";
+  SymMatrix const& found = data.symMatrices[static_cast<std::size_t>(matrix)];
+  std::string text = Text(" ", found.dim, "x", found.dim);
+  for (QuadTerm const& element : found.elements) text += Text(" (", element.row, ",", element.col, ")", element.value);
+  return text;
+}
+
+inline std::string Terms(ProblemData const& data, std::vector<PsdTerm> const& terms) {
+  std::string text;
+  for (PsdTerm const& term : terms) text += Text(" X", term.psdCol, "*[", Matrix(data, term.symMat), "]");
+  return text;
+}
+
+// Cones, PSD variables and constraints, LMI constraints; empty for a problem without them.
+inline std::string DescribeConic(ProblemData const& data) {
+  std::string text = Terms(data, data.objective.psd);
+  if (!text.empty()) text = Text("psd objective", text, "\n");
+  auto const members = [&](int type, auto const& cols) {
+    text += Text("cone", type);
+    for (int const col : cols) text += Text(" ", ColumnName(data, col));
+    text += "\n";
+  };
+  for (Cone const& cone : data.cones) members(cone.type, cone.cols);
+  for (ExpCone const& cone : data.expCones) members(cone.type, cone.cols);
+  for (std::size_t k = 0; k < data.affineCones.size(); ++k) {
+    text += Text("affine cone", data.affineCones[k].type, " ", data.affineConeNames.Get(static_cast<int>(k)), "\n");
+    for (AffineRow const& row : data.affineCones[k].rows) {
+      text += Text("  ", row.constant, Terms(data, row.linear), Terms(data, row.psd), "\n");
+    }
+  }
+  for (std::size_t k = 0; k < data.psdDims.size(); ++k) {
+    text += Text("psd ", data.psdColNames.Get(static_cast<int>(k)), " ", data.psdDims[k], "\n");
+  }
+  for (std::size_t k = 0; k < data.psdConstraints.size(); ++k) {
+    PsdConstraint const& constraint = data.psdConstraints[k];
+    text += Text("psd row ", data.psdConstraintNames.Get(static_cast<int>(k)), " [", constraint.lower, ",",
+                 constraint.upper, "]", Terms(data, constraint.linear), Terms(data, constraint.psd), "\n");
+  }
+  for (std::size_t k = 0; k < data.lmiConstraints.size(); ++k) {
+    LmiConstraint const& lmi = data.lmiConstraints[k];
+    text += Text("lmi ", data.lmiConstraintNames.Get(static_cast<int>(k)), " ", lmi.dim, " constant",
+                 Matrix(data, lmi.constant));
+    for (std::size_t t = 0; t < lmi.cols.size(); ++t) {
+      text += Text(" ", ColumnName(data, lmi.cols[t]), "*[", Matrix(data, lmi.symMats[t]), "]");
+    }
+    text += "\n";
   }
   return text;
 }
@@ -59,17 +116,18 @@ inline std::string Describe(ProblemData const& data) {
   for (std::size_t k = 0; k < data.indicators.size(); ++k) {
     auto const& indicator = data.indicators[k];
     text +=
-        Text("indicator ", data.indicatorNames.Get(static_cast<int>(k)), " ", data.columns.names.Get(indicator.binCol),
+        Text("indicator ", data.indicatorNames.Get(static_cast<int>(k)), " ", ColumnName(data, indicator.binCol),
              "=", indicator.binVal, Terms(data, indicator.terms), " ", indicator.sense, " ", indicator.rhs, "\n");
   }
   for (auto const& sos : data.soss) {
     text += Text("sos", sos.type);
     for (std::size_t m = 0; m < sos.cols.size(); ++m) {
-      text += Text(" ", data.columns.names.Get(sos.cols[m]), ":", sos.weights.empty() ? 0.0 : sos.weights[m]);
+      text += Text(" ", ColumnName(data, sos.cols[m]), ":", sos.weights.empty() ? 0.0 : sos.weights[m]);
     }
     text += "\n";
   }
-  return text + DescribeRows(data, data.lazyConstraints, "lazy") + DescribeRows(data, data.userCuts, "cut");
+  return text + DescribeRows(data, data.lazyConstraints, "lazy") + DescribeRows(data, data.userCuts, "cut") +
+         DescribeConic(data);
 }
 
 // The text of the failure of `body`; empty if it does not fail.
