@@ -107,7 +107,10 @@ class SdpaReader {
 
   void ReadObjective() {
     Columns& columns = data_.columns;
-    for (int j = 0; j < columnCount_; ++j) columns.objective.push_back(Finite(Word("a coefficient of the objective")));
+    for (int j = 0; j < columnCount_; ++j) {
+      // Files state zeros as -0.0, too.
+      columns.objective.push_back(0.0 + Finite(Word("a coefficient of the objective")));
+    }
     auto const count = columns.objective.size();
     columns.type.assign(count, 'C');
     columns.lower.assign(count, -kInfinity);

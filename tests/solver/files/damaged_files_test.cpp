@@ -4,10 +4,14 @@
 #include <random>
 
 #include "solver/files/basis_file.hpp"
+#include "solver/files/binary_file.hpp"
+#include "solver/files/cbf_reader.hpp"
+#include "solver/files/cbf_writer.hpp"
 #include "solver/files/lp_reader.hpp"
 #include "solver/files/lp_writer.hpp"
 #include "solver/files/mps_reader.hpp"
 #include "solver/files/mps_writer.hpp"
+#include "solver/files/sdpa_reader.hpp"
 #include "solver/files/solution_file.hpp"
 #include "tests/solver/files/describe.hpp"
 
@@ -21,6 +25,14 @@ char const kLp[] =
     "Bounds\n x <= 4\n -inf <= y <= 5\n z[1] free\nGenerals\n z[1]\nBinaries\n b\nSemi-Continuous\n x\n"
     "SOS\n s1: S1:: x:1 y:2\nEnd\n";
 
+char const kCbf[] =
+    "VER\n3\nOBJSENSE\nMAX\nPSDVAR\n2\n2\n1\nVAR\n13 6\nF 1\nL+ 2\nQ 3\nL= 1\nEXP 3\nEXP* 3\nINT\n1\n1\n"
+    "PSDCON\n1\n2\nCON\n8 4\nL= 2\nL- 1\nQR 3\nF 2\nOBJFCOORD\n1\n0 1 0 2.5\nOBJACOORD\n2\n0 3\n12 -1\n"
+    "OBJBCOORD\n7\nFCOORD\n2\n1 0 0 0 1\n4 0 1 1 -1\nACOORD\n3\n0 0 1\n0 2 -2\n3 1 1\nBCOORD\n2\n0 -4\n5 1.5\n"
+    "HCOORD\n2\n0 2 1 0 1\n0 0 0 0 3\nDCOORD\n1\n0 1 1 -1\n";
+char const kSdpa[] =
+    "* remark\n2 = mDIM\n3\n(2, -2, 1)\n{10.0, -20.0}\n0 1 1 1 1.5\n0 1 1 2 -3\n1 1 2 2 1\n2 1 1 2 7\n0 2 2 2 5\n"
+    "1 2 1 1 2\n2 2 2 2 3\n1 3 1 1 8\n*INTEGER\n*1\n";
 char const kSolution[] = "# Objective value = 3\nx 1\ny 2.5\nz[1] -3e2\nb 1\n";
 char const kBasis[] = "NAME all\n XU x c1\n XL y c2\n UL b\n LL z[1]\nENDATA\n";
 
@@ -28,12 +40,26 @@ ProblemData Model() {
   return ReadLp({"m.lp", kLp}).data;
 }
 
-// What was read must be whole enough to be written.
+// What was read must be whole: it can be written, and stands the checks of the binary format.
 void UseLp(std::string text) {
-  WriteMps(ReadLp({"f", std::move(text)}).data);
+  auto const data = ReadLp({"f", std::move(text)}).data;
+  ReadBinary({"f", WriteBinary(data).text});
+  WriteMps(data);
 }
 void UseMps(std::string text) {
-  WriteLp(ReadMps({"f", std::move(text)}).data);
+  auto const data = ReadMps({"f", std::move(text)}).data;
+  ReadBinary({"f", WriteBinary(data).text});
+  WriteLp(data);
+}
+void UseCbf(std::string text) {
+  auto const data = ReadCbf({"f", std::move(text)}).data;
+  ReadBinary({"f", WriteBinary(data).text});
+  WriteCbf(data);
+}
+void UseSdpa(std::string text) {
+  auto const data = ReadSdpa({"f", std::move(text)}).data;
+  ReadBinary({"f", WriteBinary(data).text});
+  WriteCbf(data);
 }
 void UseSolution(std::string text) {
   ReadSolution({"f", std::move(text)}, Model());
@@ -93,6 +119,7 @@ TEST_P(DamagedFiles, AnyChangedBytesEndWell) {
 
 INSTANTIATE_TEST_SUITE_P(Formats, DamagedFiles,
                          testing::Values(Format{"lp", kLp, UseLp}, Format{"mps", WriteMps(Model()).text, UseMps},
+                                         Format{"cbf", kCbf, UseCbf}, Format{"sdpa", kSdpa, UseSdpa},
                                          Format{"solution", kSolution, UseSolution}, Format{"basis", kBasis, UseBasis}),
                          [](auto const& format) { return std::string(format.param.name); });
 

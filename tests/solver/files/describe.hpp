@@ -115,9 +115,8 @@ inline std::string Describe(ProblemData const& data) {
   }
   for (std::size_t k = 0; k < data.indicators.size(); ++k) {
     auto const& indicator = data.indicators[k];
-    text +=
-        Text("indicator ", data.indicatorNames.Get(static_cast<int>(k)), " ", ColumnName(data, indicator.binCol),
-             "=", indicator.binVal, Terms(data, indicator.terms), " ", indicator.sense, " ", indicator.rhs, "\n");
+    text += Text("indicator ", data.indicatorNames.Get(static_cast<int>(k)), " ", ColumnName(data, indicator.binCol),
+                 "=", indicator.binVal, Terms(data, indicator.terms), " ", indicator.sense, " ", indicator.rhs, "\n");
   }
   for (auto const& sos : data.soss) {
     text += Text("sos", sos.type);

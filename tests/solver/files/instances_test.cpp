@@ -1,5 +1,6 @@
 // The open instances, where the environment variable VORQ_INSTANCES names their folder: each reads with the number of
-// rows and columns that the table optima.csv tells, and what is written reads back the same.
+// rows and columns that the table optima.csv tells, and what is written reads back the same, from each format that can
+// hold it.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -8,10 +9,14 @@
 #include <map>
 #include <sstream>
 
+#include "solver/files/binary_file.hpp"
+#include "solver/files/cbf_reader.hpp"
+#include "solver/files/cbf_writer.hpp"
 #include "solver/files/lp_reader.hpp"
 #include "solver/files/lp_writer.hpp"
 #include "solver/files/mps_reader.hpp"
 #include "solver/files/mps_writer.hpp"
+#include "solver/files/sdpa_reader.hpp"
 #include "tests/solver/files/describe.hpp"
 
 namespace vorqsolver::test {
@@ -47,6 +52,41 @@ std::map<std::string, Size> ReadTable(fs::path const& path) {
   return table;
 }
 
+struct Reader {
+  char const* ending;
+  ReadModel (*read)(TextSource const& source);
+};
+constexpr Reader kReaders[] = {
+    {".mps.gz", ReadMps}, {".qps", ReadMps}, {".lp", ReadLp}, {".cbf", ReadCbf}, {".dat-s", ReadSdpa}};
+
+Reader const* ReaderOf(fs::path const& path) {
+  for (Reader const& reader : kReaders) {
+    if (path.string().ends_with(reader.ending)) return &reader;
+  }
+  return nullptr;
+}
+
+// A file with power cones, which a problem cannot hold.
+constexpr char kRefused[] = "HMCR-n20-m400.cbf";
+
+bool IsConic(fs::path const& path) {
+  return path.extension() == ".cbf" || path.extension() == ".dat-s";
+}
+
+// Rows, those of affine cones, and constraints of other kinds, as the table counts them.
+Size SizeOf(ProblemData const& data) {
+  std::size_t rows = data.quadConstraints.size() + data.soss.size() + data.indicators.size();
+  for (AffineCone const& cone : data.affineCones) rows += cone.rows.size();
+  return {data.rows.Count() + static_cast<int>(rows), data.columns.Count()};
+}
+
+// For SDPA files the table has the number of variables, and the sum of the sizes of the blocks.
+Size SizeOfSdpa(ProblemData const& data) {
+  int size = data.rows.Count();
+  for (LmiConstraint const& lmi : data.lmiConstraints) size += lmi.dim;
+  return {data.columns.Count(), size};
+}
+
 class Instances : public testing::Test {
  protected:
   void SetUp() override {
@@ -58,16 +98,12 @@ class Instances : public testing::Test {
     table_ = ReadTable(fs::path(folder) / "optima.csv");
     for (auto const& entry : fs::recursive_directory_iterator(folder)) {
       std::string const name = entry.path().filename().string();
-      bool const known = name.ends_with(".mps.gz") || name.ends_with(".qps") || name.ends_with(".lp");
-      if (known && table_.contains(name)) files_.push_back(entry.path());
+      if (ReaderOf(name) != nullptr && table_.contains(name) && name != kRefused) files_.push_back(entry.path());
     }
     ASSERT_FALSE(files_.empty());
   }
 
-  static ProblemData Read(fs::path const& path) {
-    auto const source = LoadText(path.string());
-    return path.extension() == ".lp" ? ReadLp(source).data : ReadMps(source).data;
-  }
+  static ProblemData Read(fs::path const& path) { return ReaderOf(path)->read(LoadText(path.string())).data; }
 
   std::map<std::string, Size> table_;
   std::vector<fs::path> files_;
@@ -77,14 +113,41 @@ TEST_F(Instances, ReadWithTheRightSize) {
   for (auto const& path : files_) {
     auto const data = Read(path);
     auto const [rows, columns] = table_[path.filename().string()];
-    auto const others = data.quadConstraints.size() + data.soss.size() + data.indicators.size();
-    EXPECT_EQ(data.rows.Count() + static_cast<int>(others), rows) << path;
-    EXPECT_EQ(data.columns.Count(), columns) << path;
+    Size const size = path.extension() == ".dat-s" ? SizeOfSdpa(data) : SizeOf(data);
+    EXPECT_EQ(size.rows, rows) << path;
+    EXPECT_EQ(size.columns, columns) << path;
   }
+}
+
+TEST_F(Instances, ReadBackTheSameFromBinary) {
+  for (auto const& path : files_) {
+    auto const data = Read(path);
+    auto const text = WriteBinary(data).text;
+    auto const again = ReadBinary({"m.bin", text}).data;
+    EXPECT_TRUE(Describe(again) == Describe(data)) << path;
+    EXPECT_TRUE(WriteBinary(again).text == text) << path;
+  }
+}
+
+TEST_F(Instances, ReadBackTheSameFromCbf) {
+  for (auto const& path : files_) {
+    if (!IsConic(path)) continue;
+    auto const data = Read(path);
+    auto const written = WriteCbf(data);
+    EXPECT_EQ(written.warnings, Warnings()) << path;
+    EXPECT_TRUE(Describe(ReadCbf({"m.cbf", written.text}).data) == Describe(data)) << path;
+  }
+}
+
+TEST_F(Instances, PowerConesAreRefusedByName) {
+  fs::path const path = fs::path(std::getenv("VORQ_INSTANCES")) / "cbf" / kRefused;
+  if (!fs::exists(path)) GTEST_SKIP() << "there is no " << kRefused;
+  EXPECT_EQ(FailureOf([&] { Read(path); }), path.string() + ":4: section POWCONES: power cones are not supported");
 }
 
 TEST_F(Instances, ReadBackTheSameFromMps) {
   for (auto const& path : files_) {
+    if (IsConic(path)) continue;
     auto const data = Read(path);
     EXPECT_TRUE(Describe(ReadMps({"m.mps", WriteMps(data).text}).data) == Describe(data)) << path;
   }
@@ -92,6 +155,7 @@ TEST_F(Instances, ReadBackTheSameFromMps) {
 
 TEST_F(Instances, ReadBackTheSameFromLp) {
   for (auto const& path : files_) {
+    if (IsConic(path)) continue;
     auto const data = Read(path);
     auto const written = WriteLp(data);
     auto const again = ReadLp({"m.lp", written.text}).data;

@@ -73,6 +73,13 @@ TEST_F(TextFiles, RefuseADamagedPackedFile) {
             Path("a.gz") + ": the packed file is damaged (incorrect data check)");
 }
 
+TEST_F(TextFiles, RefuseAPackedFileThatUnpacksToFarMore) {
+  WriteTextFile(Path("a.gz"), std::string((std::size_t{64} << 20) + 1, 'x'));
+  EXPECT_LT(fs::file_size(Path("a.gz")), 100000u);
+  EXPECT_EQ(FailureOf([&] { LoadText(Path("a.gz")); }),
+            Path("a.gz") + ": the packed file unpacks to more than 200 times its size");
+}
+
 TEST_F(TextFiles, TellPathAndCauseWhereNothingCanBeRead) {
   EXPECT_EQ(FailureOf([&] { LoadText(Path("none")); }), Path("none") + ": No such file or directory");
   EXPECT_EQ(FailureOf([&] { LoadText(folder_.string()); }), folder_.string() + ": Is a directory");
