@@ -197,6 +197,65 @@ TEST_F(FileFunctions, ParametersAreWrittenAndRead) {
   EXPECT_EQ(value, 17.0);
 }
 
+// Everything that a problem can hold comes back, packed and unpacked.
+TEST_F(FileFunctions, BinaryFilesHoldTheWholeProblem) {
+  ReadSample(true);
+  int const cols[] = {0, 1};
+  ASSERT_EQ(VORQ_AddCones(prob_, 1, nullptr, nullptr, std::vector<int>{2}.data(), cols), VORQ_OK);
+  ASSERT_EQ(VORQ_AddPSDCol(prob_, 3, "P"), VORQ_OK);
+  ASSERT_EQ(VORQ_WriteBin(prob_, Path("a.bin").c_str()), VORQ_OK);
+  ASSERT_EQ(VORQ_WriteBin(prob_, Path("a.bin.gz").c_str()), VORQ_OK);
+  EXPECT_NE(Text(Path("a.bin")), Text(Path("a.bin.gz")));
+  ASSERT_EQ(VORQ_ClearProb(prob_), VORQ_OK);
+  ASSERT_EQ(VORQ_ReadBin(prob_, Path("a.bin.gz").c_str()), VORQ_OK);
+  EXPECT_EQ(lines_.back(), "Read '" + Path("a.bin.gz") + "': 1 rows, 2 columns, 2 nonzeros, 1 cones, 1 PSD variables");
+  int index = -1;
+  EXPECT_EQ(VORQ_GetPSDColIdx(prob_, "P", &index), VORQ_OK);
+  EXPECT_EQ(VORQ_GetRowIdx(prob_, "c1", &index), VORQ_OK);
+  ASSERT_EQ(VORQ_WriteBin(prob_, Path("b.bin").c_str()), VORQ_OK);
+  EXPECT_EQ(Text(Path("b.bin")), Text(Path("a.bin")));
+}
+
+TEST_F(FileFunctions, ADamagedBinaryFileLeavesTheProblemAsItWas) {
+  ReadSample(false);
+  ASSERT_EQ(VORQ_WriteBin(prob_, Path("a.bin").c_str()), VORQ_OK);
+  std::string text = Text(Path("a.bin"));
+  text[40] ^= 1;
+  EXPECT_EQ(VORQ_ReadBin(prob_, Put("bad.bin", text).c_str()), VORQ_FILE);
+  EXPECT_EQ(lines_.back(), "Error: " + Path("bad.bin") + ": the checksum does not hold: the file is damaged");
+  EXPECT_EQ(Attribute("Cols"), 2);
+}
+
+TEST_F(FileFunctions, SdpaProblemsAreWrittenAsCbf) {
+  std::string const path = Put("m.dat-s", "2\n2\n2 -1\n1 2\n0 1 1 1 1\n1 1 1 1 1\n2 1 2 2 1\n1 2 1 1 3\n");
+  ASSERT_EQ(VORQ_ReadSDPA(prob_, path.c_str()), VORQ_OK);
+  EXPECT_EQ(lines_.back(), "Read '" + path + "': 1 rows, 2 columns, 1 nonzeros, 1 LMI constraints");
+  ASSERT_EQ(VORQ_WriteCbf(prob_, Path("a.cbf.gz").c_str()), VORQ_OK);
+  ASSERT_EQ(VORQ_ReadCbf(prob_, Path("a.cbf.gz").c_str()), VORQ_OK);
+  ASSERT_EQ(VORQ_WriteCbf(prob_, Path("a.cbf").c_str()), VORQ_OK);
+  EXPECT_EQ(Text(Path("a.cbf")),
+            "VER\n1\n\nOBJSENSE\nMIN\n\nVAR\n2 1\nF 2\n\nPSDCON\n1\n2\n\nCON\n1 1\nL+ 1\n\n"
+            "OBJACOORD\n2\n0 1\n1 2\n\nACOORD\n1\n0 0 3\n\n"
+            "HCOORD\n2\n0 0 0 0 1\n0 1 1 1 1\n\nDCOORD\n1\n0 0 0 -1\n\n");
+}
+
+TEST_F(FileFunctions, FailuresOfConicFilesTellTheLine) {
+  ReadSample(false);
+  EXPECT_EQ(VORQ_ReadCbf(prob_, Put("m.cbf", "VER\n1\nVAR\n1 1\nX 1\n").c_str()), VORQ_FILE);
+  EXPECT_EQ(lines_.back(), "Error: " + Path("m.cbf") + ":5: unknown cone 'X'");
+  EXPECT_EQ(VORQ_ReadSDPA(prob_, Put("m.dat-s", "1\n1\n0\n").c_str()), VORQ_FILE);
+  EXPECT_EQ(lines_.back(), "Error: " + Path("m.dat-s") + ":3: a block cannot have the size 0");
+  EXPECT_EQ(Attribute("Cols"), 2);
+}
+
+TEST_F(FileFunctions, NlFilesAreWrittenWithWarningsInTheLog) {
+  ReadSample(true);
+  ASSERT_EQ(VORQ_WriteNL(prob_, Path("a.nl").c_str()), VORQ_OK);
+  EXPECT_TRUE(Text(Path("a.nl")).starts_with("g3 1 1 0\t# problem unnamed\n 2 1 1 0 0\t# vars"));
+  EXPECT_EQ(lines_, (std::vector<std::string>{"Warning: The columns stand in another order in the NL file",
+                                              "Warning: An NL file holds no names", "Wrote '" + Path("a.nl") + "'"}));
+}
+
 struct NamedFunction {
   char const* line;
   int (*call)(VORQ_Prob* prob, char const* path);
@@ -210,13 +269,7 @@ int WritePool(VORQ_Prob* prob, char const* path) {
 }
 
 TEST_F(FileFunctions, FormatsThatAreNotThereFailAndSaySo) {
-  NamedFunction const functions[] = {{"read SDPA files", VORQ_ReadSDPA},
-                                     {"read CBF files", VORQ_ReadCbf},
-                                     {"read binary files", VORQ_ReadBin},
-                                     {"read tuning files", VORQ_ReadTune},
-                                     {"write CBF files", VORQ_WriteCbf},
-                                     {"write binary files", VORQ_WriteBin},
-                                     {"write NL files", VORQ_WriteNL},
+  NamedFunction const functions[] = {{"read tuning files", VORQ_ReadTune},
                                      {"write IIS files", VORQ_WriteIIS},
                                      {"write feasibility relaxation files", VORQ_WriteRelax},
                                      {"write tuning files", WriteTuned}};
