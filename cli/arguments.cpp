@@ -1,4 +1,4 @@
-// Reading the command line of `vorq solve`.
+// Reading the command lines of `vorq solve` and `vorq convert`.
 #include "cli/arguments.hpp"
 
 #include <cmath>
@@ -56,6 +56,28 @@ SolveArguments ParseSolveArguments(std::span<char const* const> arguments) {
     }
   }
   if (result.file.empty() && !result.help) throw UsageError("no model file is given");
+  return result;
+}
+
+ConvertArguments ParseConvertArguments(std::span<char const* const> arguments) {
+  ConvertArguments result;
+  std::vector<std::string> files;
+  bool onlyFiles = false;
+  for (std::string const argument : arguments) {
+    if (onlyFiles || !argument.starts_with("-")) {
+      files.push_back(argument);
+    } else if (argument == "--") {
+      onlyFiles = true;
+    } else if (argument == "--help" || argument == "-h") {
+      result.help = true;
+    } else {
+      throw UsageError("unknown option '" + argument + "'");
+    }
+  }
+  if (result.help) return result;
+  if (files.size() != 2) throw UsageError("convert needs two files, not " + std::to_string(files.size()));
+  result.input = files[0];
+  result.output = files[1];
   return result;
 }
 

@@ -28,4 +28,13 @@ struct SolveArguments {
 // Reads what follows `vorq solve`.
 SolveArguments ParseSolveArguments(std::span<char const* const> arguments);
 
+struct ConvertArguments {
+  std::string input;
+  std::string output;
+  bool help = false;
+};
+
+// Reads what follows `vorq convert`.
+ConvertArguments ParseConvertArguments(std::span<char const* const> arguments);
+
 }  // namespace cli

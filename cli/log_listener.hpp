@@ -1,7 +1,8 @@
-// Passes log lines on to standard output, and keeps what the tool reports: the engine and the last error.
+// Passes log lines on to standard output, and keeps what the tool reports: the engine, warnings and the last error.
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include <vorq>
 
@@ -15,11 +16,13 @@ class LogListener final : public Vorq::ILogSink {
 
   std::string const& Engine() const { return engine_; }
   std::string const& Error() const { return error_; }
+  std::vector<std::string> const& Warnings() const { return warnings_; }
 
  private:
   bool print_;
   std::string engine_;
   std::string error_;
+  std::vector<std::string> warnings_;
 };
 
 }  // namespace cli

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "cli/arguments.hpp"
+#include "cli/convert_command.hpp"
 #include "cli/interrupt_watcher.hpp"
 #include "cli/outcome.hpp"
 #include "cli/solve_command.hpp"
@@ -16,9 +17,10 @@ namespace {
 constexpr char kUsage[] =
     "usage: vorq COMMAND [ARGUMENT]...\n"
     "\n"
-    "  vorq solve FILE     read a model, solve it and print the result\n"
-    "  vorq --version      print the version\n"
-    "  vorq --help         print this text; vorq COMMAND --help tells of a command\n";
+    "  vorq solve FILE        read a model, solve it and print the result\n"
+    "  vorq convert IN OUT    read a model and write it in another format\n"
+    "  vorq --version         print the version\n"
+    "  vorq --help            print this text; vorq COMMAND --help tells of a command\n";
 
 cli::Outcome RunCommand(std::span<char const* const> arguments) {
   if (arguments.empty()) throw cli::UsageError("no command is given");
@@ -38,6 +40,14 @@ cli::Outcome RunCommand(std::span<char const* const> arguments) {
       return cli::Outcome::kOptimal;
     }
     return cli::RunSolve(solve);
+  }
+  if (command == "convert") {
+    cli::ConvertArguments const convert = cli::ParseConvertArguments(arguments.subspan(1));
+    if (convert.help) {
+      std::fputs(cli::kConvertUsage, stdout);
+      return cli::Outcome::kOptimal;
+    }
+    return cli::RunConvert(convert);
   }
   throw cli::UsageError("unknown command '" + command + "'");
 }

@@ -3,53 +3,18 @@
 
 #include <cmath>
 #include <cstdio>
-#include <memory>
-#include <stdexcept>
+#include <exception>
 #include <string>
 
 #include <vorq>
 
 #include "cli/interrupt_watcher.hpp"
 #include "cli/json.hpp"
-#include "cli/log_listener.hpp"
 #include "cli/numbers.hpp"
+#include "cli/session.hpp"
 
 namespace cli {
 namespace {
-
-// Ends the command with the outcome kFailed.
-class CommandFailure : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
-// One environment and one model, whose log goes to a listener.
-class Session {
- public:
-  explicit Session(bool printLog) : listener_(printLog), envr_(CreateEnvr(&listener_)) {
-    Check(*envr_, "");
-    model_.reset(::CreateModel(envr_.get(), "vorq"));
-    Check(*model_, "");
-    model_->SetIntParam("LogToConsole", 0);
-    model_->SetLogCallback(&listener_);
-  }
-
-  Vorq::IModel& Model() { return *model_; }
-  LogListener const& Listener() const { return listener_; }
-
-  // Fails with what the log tells of the cause, which says more than the text of a return code.
-  template <class Object>
-  void Check(Object& object, std::string const& culprit) const {
-    if (object.GetLastError() == 0) return;
-    std::string const cause = listener_.Error().empty() ? object.GetErrorMessage() : listener_.Error();
-    throw CommandFailure(culprit.empty() ? cause : culprit + ": " + cause);
-  }
-
- private:
-  LogListener listener_;
-  std::unique_ptr<Vorq::IEnvr> envr_;
-  std::unique_ptr<Vorq::IModel> model_;
-};
 
 void ApplySetting(Session& session, std::string const& name, std::string const& value) {
   constexpr int kDoubleParameter = 0;

@@ -53,4 +53,13 @@ TEST(SolveArguments, NamesEachMistake) {
   EXPECT_EQ(ErrorOf({"a.lp", "--sett", "a=1"}), "unknown option '--sett'");
 }
 
+TEST(ConvertArguments, AreTwoFiles) {
+  auto const result = cli::ParseConvertArguments(std::vector<char const*>{"--", "-a.lp", "b.mps"});
+  EXPECT_EQ(result.input, "-a.lp");
+  EXPECT_EQ(result.output, "b.mps");
+  EXPECT_THROW(cli::ParseConvertArguments(std::vector<char const*>{"a", "b", "c"}), cli::UsageError);
+  EXPECT_THROW(cli::ParseConvertArguments(std::vector<char const*>{"--fast", "b", "c"}), cli::UsageError);
+  EXPECT_TRUE(cli::ParseConvertArguments(std::vector<char const*>{"-h"}).help);
+}
+
 }  // namespace

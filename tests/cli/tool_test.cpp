@@ -106,6 +106,48 @@ TEST_F(Tool, NamesASettingThatIsRefused) {
   EXPECT_THAT(Solve(kDiet, "--set RelGap=-1").errors, HasSubstr("--set RelGap=-1: "));
 }
 
+TEST_F(Tool, ConvertsAModelThroughEveryFormatThatIsReadAndWritten) {
+  std::string from = folder_.Write("m.lp", kDiet);
+  for (char const* name : {"a.mps", "b.bin", "c.lp.gz", "d.MPS.GZ", "e.bin.gz", "f.lp"}) {
+    std::string const to = folder_.File(name).string();
+    ProgramResult const result = Run("convert " + from + " " + to);
+    EXPECT_EQ(result.exitCode, 0) << name << result.errors;
+    EXPECT_EQ(result.output + result.errors, "") << name;
+    from = to;
+  }
+  ProgramResult const direct = Run("convert " + folder_.File("m.lp").string() + " " + folder_.File("g.lp").string());
+  EXPECT_EQ(direct.exitCode, 0);
+  EXPECT_EQ(FileText(folder_.File("f.lp")), FileText(folder_.File("g.lp")));
+  EXPECT_NE(FileText(folder_.File("c.lp.gz")), FileText(folder_.File("f.lp")));
+}
+
+TEST_F(Tool, ConvertsSdpaToCbfAndTellsWhatIsLost) {
+  std::string const sdpa = folder_.Write("m.dat-s", "1\n1\n2\n1\n1 1 1 2 1\n");
+  EXPECT_EQ(Run("convert " + sdpa + " " + folder_.File("a.cbf").string()).exitCode, 0);
+  EXPECT_THAT(FileText(folder_.File("a.cbf")), HasSubstr("HCOORD\n1\n0 0 1 0 1\n"));
+  ProgramResult const result = Run("convert " + folder_.Write("m.lp", kDiet) + " " + folder_.File("a.nl").string());
+  EXPECT_EQ(result.exitCode, 0);
+  EXPECT_EQ(result.errors, "vorq: warning: An NL file holds no names\n");
+}
+
+TEST_F(Tool, RefusesAConversionThatTheFormatCannotHold) {
+  std::string const cbf = folder_.Write("m.cbf", "VER\n1\nVAR\n3 1\nQ 3\n");
+  std::string const out = folder_.File("a.mps").string();
+  ProgramResult const result = Run("convert " + cbf + " " + out);
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_EQ(result.errors, "vorq: " + out + ": An MPS file cannot hold cones\n");
+  EXPECT_FALSE(std::filesystem::exists(out));
+}
+
+TEST_F(Tool, RefusesEndingsThatCannotBeConverted) {
+  std::string const lp = folder_.Write("m.lp", kDiet);
+  EXPECT_EQ(Run("convert " + lp + " a.dat-s").errors, "vorq: a.dat-s: a problem of this ending cannot be written\n");
+  EXPECT_EQ(Run("convert " + lp + " a.xyz").errors, "vorq: a.xyz: a problem of this ending cannot be written\n");
+  EXPECT_EQ(Run("convert a.nl a.lp").errors, "vorq: a.nl: a problem of this ending cannot be read\n");
+  EXPECT_EQ(Run("convert " + lp).exitCode, 2);
+  EXPECT_EQ(Run("convert --help").exitCode, 0);
+}
+
 TEST_F(Tool, PrintsItsVersion) {
   ProgramResult const result = Run("--version");
   EXPECT_EQ(result.exitCode, 0);
