@@ -87,7 +87,7 @@ class ByteWriter {
   template <typename Record>
   requires std::is_class_v<Record>
   void Put(Record const& record) {
-    std::apply([this](auto const&... fields) { (Put(fields), ...); }, FieldsOf(record));
+    std::apply([this](auto const&... fields) { (this->Put(fields), ...); }, FieldsOf(record));
   }
 
  private:
@@ -152,7 +152,7 @@ class ByteReader {
   template <typename Record>
   requires std::is_class_v<Record>
   void Take(Record& record) {
-    std::apply([this](auto&... fields) { (Take(fields), ...); }, FieldsOf(record));
+    std::apply([this](auto&... fields) { (this->Take(fields), ...); }, FieldsOf(record));
   }
 
  private:
