@@ -2,7 +2,7 @@
 // resetting, callbacks and the status are here.
 #pragma once
 
-#include "handles/matrix_items.hpp"
+#include "handles/callback_proxy.hpp"
 #include "handles/model_solving.hpp"
 
 class VorqModel final : public VorqModelSolving {
@@ -46,7 +46,9 @@ class VorqModel final : public VorqModelSolving {
   Vorq::IModel* Clone() override { return Vorq::Wrap<Vorq::IModel>(Impl().Clone()); }
 
   // Callbacks and logging.
-  void SetCallback(Vorq::ICallback*, int) override { NotImplemented("SetCallback"); }
+  void SetCallback(Vorq::ICallback* callback, int contextMask) override {
+    Vorq::SetCallback(Impl(), callback, contextMask);
+  }
   int SetLogFile(char const* path) override { return Impl().SetLogFile(path); }
   int SetLogCallback(Vorq::ILogSink* logger) override { return Impl().SetLogCallback(logger); }
 

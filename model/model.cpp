@@ -45,8 +45,7 @@ void Model::ResetParam() {
 void Model::Clear() {
   if (!Record(VORQ_Reset(Prob(), 1), kResetAllFailed)) return;
   if (!Record(VORQ_ResetParam(Prob()), kResetParamFailed)) return;
-  columnCountListener_ = nullptr;
-  if (!Record(VORQ_SetCallback(Prob(), nullptr, 0, nullptr), "Fail to clean user callback")) return;
+  if (!SetCallback(nullptr, 0, nullptr, nullptr)) return;
   if (!Record(VORQ_ClearProb(Prob()), "Fail to clear problem")) return;
   ForEachKind(AllKinds(), [this]<class Item>() {
     core_->Table<Item>() = {};

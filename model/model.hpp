@@ -88,8 +88,10 @@ class Model {
   void ReloadItems();
   // Makes the scratch arrays hold at least `size` entries.
   void EnsureDense(int size);
-  // Told the number of columns whenever it shrinks or is read anew; Clear forgets it.
-  void SetColumnCountListener(std::function<void(int)> listener) { columnCountListener_ = std::move(listener); }
+  // Told the number of columns whenever it shrinks or is read anew, and before a solve, which false refuses. Clear
+  // forgets it.
+  using ColumnCountListener = std::function<bool(int columnCount)>;
+  void SetColumnCountListener(ColumnCountListener listener) { columnCountListener_ = std::move(listener); }
 
   SharedPtr<ModelCore> Clone();
   void Clear();
@@ -339,6 +341,9 @@ class Model {
   void LoadTuneParam(int index);
   // May be called by another thread while one of the operations above runs.
   void Interrupt();
+  // `function` is called with `user` at the places that the mask chooses; a null one takes the callback away. The
+  // listener takes the place of the one from before, whatever the solver library says. True for success.
+  bool SetCallback(VORQ_CallbackFunction function, int contextMask, void* user, ColumnCountListener listener);
   int SetLogFile(char const* path);
   int SetLogCallback(ILogSink* logger);
 
@@ -536,7 +541,7 @@ class Model {
   bool ReloadTable(ModelCore& target, std::vector<int> const& dims);
   template <class Item>
   bool CloneTable(ModelCore& copy);
-  void TellColumnCount();
+  bool TellColumnCount();
   Constraint AddRow(Expr& expr, int sense, double bound, double upper, std::string name);
   int FlattenBuilders(ConstrBuilderArray& builders, RowBatch& batch);
   // The rows of a block in one call. `upper` counts for ranges.
@@ -589,7 +594,7 @@ class Model {
   void ReadAllNamed(char const* name, NameRule const& rule, NamedRead<T> const (&reads)[4], char const* text);
 
   SharedPtr<ModelCore> core_;
-  std::function<void(int)> columnCountListener_;
+  ColumnCountListener columnCountListener_;
   // Scratch, one entry for each column or row. Between operations the marks and positions are all zero.
   std::vector<double> denseVal_;
   std::vector<unsigned char> denseFlag_;

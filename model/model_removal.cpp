@@ -45,8 +45,8 @@ bool Model::ApplyRemovals() {
   return done;
 }
 
-void Model::TellColumnCount() {
-  if (columnCountListener_) columnCountListener_(Count<Var>());
+bool Model::TellColumnCount() {
+  return !columnCountListener_ || columnCountListener_(Count<Var>());
 }
 
 }  // namespace Vorq

@@ -1,4 +1,4 @@
-// Running the solver, and its log.
+// Running the solver, its callback and its log.
 #include "model/model.hpp"
 
 namespace Vorq {
@@ -25,7 +25,13 @@ class Model::SolveScope {
 
 void Model::Solve() {
   SolveScope const scope(*this);
-  FlushAndCall("Fail to solve problem", VORQ_Solve);
+  if (!ApplyRemovals()) return;
+  // Columns may have been added since the callback was set, or its object may have served another model.
+  if (!TellColumnCount()) {
+    Refuse("The callback is running for another model");
+    return;
+  }
+  Record(VORQ_Solve(Prob()), "Fail to solve problem");
 }
 
 void Model::SolveLp() {
@@ -50,6 +56,12 @@ void Model::LoadTuneParam(int index) {
 void Model::Interrupt() {
   int const code = VORQ_Interrupt(Prob());
   if (!solving_) Record(code, "Fail to call interrupt");
+}
+
+bool Model::SetCallback(VORQ_CallbackFunction function, int contextMask, void* user, ColumnCountListener listener) {
+  columnCountListener_ = std::move(listener);
+  return Record(VORQ_SetCallback(Prob(), function, contextMask, user),
+                function == nullptr ? "Fail to clean user callback" : "Fail to set user callback");
 }
 
 int Model::SetLogFile(char const* path) {

@@ -34,7 +34,7 @@ class Backstage {
   static Value const& BannerText();
   static int CallbackType(std::string const& name, int& dim);
 
-  static void SetCallback(VORQ_Prob* prob, VORQ_CallbackFunction function, void* user);
+  static void SetCallback(VORQ_Prob* prob, VORQ_CallbackFunction function, int contextMask, void* user);
   static void SetLogFunction(VORQ_Prob* prob, VORQ_LogFunction function, void* user);
 };
 

@@ -73,6 +73,7 @@ struct SolverDouble::State {
   int configLeadingWord = 0;
 
   Registered<VORQ_CallbackFunction> callback;
+  int callbackMask = 0;
   Registered<VORQ_LogFunction> logFunction;
 
   State() {
@@ -239,6 +240,17 @@ int SolverDouble::RunCallback(int context) {
   DataLife const life{state_->handles, state_->handles.Make(HandleKind::kData, callback.prob, 0)};
   lock.unlock();
   return callback.function(callback.prob, static_cast<VORQ_CallbackData*>(life.data), context, callback.user);
+}
+
+void SolverDouble::SolveCallsBack(std::vector<int> contexts) {
+  On("VORQ_Solve", [this, contexts = std::move(contexts)](DoubleCall& call) -> int {
+    for (int const context : contexts) {
+      bool const wanted = state_->callback.prob == call.prob && (state_->callbackMask & context) != 0;
+      int const code = wanted ? RunCallback(context) : VORQ_OK;
+      if (code != VORQ_OK) return code;
+    }
+    return VORQ_OK;
+  });
 }
 
 void SolverDouble::SendLogLine(std::string const& line) {
@@ -443,8 +455,10 @@ int Backstage::CallbackType(std::string const& name, int& dim) {
   return found == names.end() ? -1 : found->second.type;
 }
 
-void Backstage::SetCallback(VORQ_Prob* prob, VORQ_CallbackFunction function, void* user) {
-  SolverDouble::Instance().state_->callback = {prob, function, user};
+void Backstage::SetCallback(VORQ_Prob* prob, VORQ_CallbackFunction function, int contextMask, void* user) {
+  SolverDouble::State& state = *SolverDouble::Instance().state_;
+  state.callback = {prob, function, user};
+  state.callbackMask = contextMask;
 }
 
 void Backstage::SetLogFunction(VORQ_Prob* prob, VORQ_LogFunction function, void* user) {

@@ -98,6 +98,9 @@ class SolverDouble {
   // Calls back as the solver would: the callback, and the log function, of the problem that last set one. The result of
   // the callback, or -1 when there is none.
   int RunCallback(int context);
+  // From now on each VORQ_Solve calls back at these places, in order, as far as the mask of the callback chooses them.
+  // A result that is not 0 ends the solve with it as code; an exception passes through.
+  void SolveCallsBack(std::vector<int> contexts);
   void SendLogLine(std::string const& line);
 
   // The label of a handle, such as "prob#1".

@@ -423,6 +423,30 @@ TEST_F(DoubleTest, CallbackRunsWithDataThatDiesAfterIt) {
               ElementsAre("deleted handle in VORQ_GetCallbackInfo(data#1, \"NodeCnt\", out)"));
 }
 
+TEST_F(DoubleTest, SolvesCallBackAtTheChosenPlaces) {
+  std::vector<int> contexts;
+  VORQ_SetCallback(
+      prob_,
+      [](VORQ_Prob*, VORQ_CallbackData*, int context, void* user) -> int {
+        static_cast<std::vector<int>*>(user)->push_back(context);
+        return context == 4 ? VORQ_NONCONVEX : VORQ_OK;
+      },
+      5, &contexts);
+  double_.SolveCallsBack({1, 2, 1, 4, 1});
+  EXPECT_EQ(VORQ_Solve(prob_), VORQ_NONCONVEX);
+  EXPECT_THAT(contexts, ElementsAre(1, 1, 4));
+}
+
+TEST_F(DoubleTest, ExceptionsOfACallbackPassThroughTheSolve) {
+  VORQ_SetCallback(
+      prob_, [](VORQ_Prob*, VORQ_CallbackData*, int, void*) -> int { throw std::runtime_error("from the callback"); },
+      1, nullptr);
+  double_.SolveCallsBack({1});
+  EXPECT_THROW(VORQ_Solve(prob_), std::runtime_error);
+  VORQ_SetCallback(prob_, nullptr, 0, nullptr);
+  EXPECT_EQ(VORQ_Solve(prob_), VORQ_OK);
+}
+
 TEST_F(DoubleTest, LogLinesReachTheLogFunction) {
   std::string line;
   VORQ_SetLogCallback(

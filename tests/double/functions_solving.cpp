@@ -187,7 +187,7 @@ int VORQ_SetLogCallback(VORQ_Prob* prob, VORQ_LogFunction function, void* user) 
 
 int VORQ_SetCallback(VORQ_Prob* prob, VORQ_CallbackFunction function, int contextMask, void* user) {
   return Do(__func__, prob, {Pointer(function, "function"), contextMask, Pointer(user, "user")}, [=](Store&, Outputs&) {
-    Backstage::SetCallback(prob, function, user);
+    Backstage::SetCallback(prob, function, contextMask, user);
     return VORQ_OK;
   });
 }

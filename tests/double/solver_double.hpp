@@ -36,7 +36,8 @@
 //     double_.IntParam("Threads", 4).DblParam("InfBound", 1e20);
 //     double_.Values("VORQ_GetIntParamMax", "Threads", {8});
 //     double_.On("VORQ_Solve", [&](vorqtest::DoubleCall&) { double_.RunCallback(1); return 0; });   // may also throw
-//     double_.CallbackInt("NodeCnt", 3).CallbackDbl("BestObj", 2.5).CallbackVector("Incumbent", {1, 0});
+//     double_.SolveCallsBack({1, 4, 1});                     // each solve, at the places that the callback's mask
+//     chooses double_.CallbackInt("NodeCnt", 3).CallbackDbl("BestObj", 2.5).CallbackVector("Incumbent", {1, 0});
 //     double_.SendLogLine("line");                           // to the function of VORQ_SetLogCallback
 //     double_.Banner("text");
 //

@@ -30,7 +30,10 @@ TEST_F(CoreUnitTest, CopiesAreNamedAfterTheirSource) {
 TEST_F(CoreUnitTest, ListenerHearsOfRemovedColumns) {
   std::vector<int> heard;
   Vorq::VarArray vars = model_.AddVars(3, 'C', "x");
-  model_.SetColumnCountListener([&heard](int count) { heard.push_back(count); });
+  model_.SetColumnCountListener([&heard](int count) {
+    heard.push_back(count);
+    return true;
+  });
   vars[1].MarkRemoved();
   EXPECT_TRUE(model_.ApplyRemovals());
   EXPECT_EQ(heard, std::vector<int>{2});
@@ -40,7 +43,7 @@ TEST_F(CoreUnitTest, ListenerDoesNotHearOfOtherKinds) {
   bool heard = false;
   double const bounds[] = {0.0};
   Vorq::ConstrArray constrs = model_.AddConstrs(1, bounds, bounds, "c");
-  model_.SetColumnCountListener([&heard](int) { heard = true; });
+  model_.SetColumnCountListener([&heard](int) { return heard = true; });
   constrs[0].MarkRemoved();
   EXPECT_TRUE(model_.ApplyRemovals());
   EXPECT_FALSE(heard);
@@ -48,7 +51,10 @@ TEST_F(CoreUnitTest, ListenerDoesNotHearOfOtherKinds) {
 
 TEST_F(CoreUnitTest, ListenerHearsOfAReload) {
   std::vector<int> heard;
-  model_.SetColumnCountListener([&heard](int count) { heard.push_back(count); });
+  model_.SetColumnCountListener([&heard](int count) {
+    heard.push_back(count);
+    return true;
+  });
   double_.SetItems(Prob(), "Cols", 5);
   model_.ReloadItems();
   EXPECT_EQ(heard, std::vector<int>{5});
@@ -56,10 +62,27 @@ TEST_F(CoreUnitTest, ListenerHearsOfAReload) {
 
 TEST_F(CoreUnitTest, ClearForgetsTheListener) {
   bool heard = false;
-  model_.SetColumnCountListener([&heard](int) { heard = true; });
+  model_.SetColumnCountListener([&heard](int) { return heard = true; });
   model_.Clear();
   model_.ReloadItems();
   EXPECT_FALSE(heard);
+}
+
+TEST_F(CoreUnitTest, ListenerHearsOfASolveAndMayRefuseIt) {
+  bool takes = true;
+  std::vector<int> heard;
+  model_.SetColumnCountListener([&](int count) {
+    heard.push_back(count);
+    return takes;
+  });
+  model_.AddVars(3, 'C', "x");
+  double_.ClearLog();
+  model_.Solve();
+  takes = false;
+  model_.Solve();
+  EXPECT_STREQ(model_.status.Text(), "(INVALID) The callback is running for another model");
+  EXPECT_EQ(heard, (std::vector<int>{3, 3}));
+  EXPECT_CALLS(double_, {"VORQ_Solve(prob#1)"});
 }
 
 TEST_F(CoreUnitTest, ReloadReadsCountersInOrderAndThenDimensions) {

@@ -1,0 +1,48 @@
+// From the solver library to the caller's callback object, and the export that makes a proxy.
+#include "handles/callback_proxy.hpp"
+
+#include "model/model.hpp"
+#include "vorqmodel/exports.h"
+
+namespace Vorq {
+namespace {
+
+SharedPtr<CallbackProxy> ProxyOf(ICallback& callback) {
+  return static_cast<VorqCallbackProxy*>(callback.GetCallbackProxy())->Holder();
+}
+
+// What the solver library calls. The holder keeps the proxy should the callback delete its handle. An exception of the
+// caller's is for the solver library to carry.
+int RunCallback(VORQ_Prob*, VORQ_CallbackData* data, int context, void* user) {
+  auto& callback = *static_cast<ICallback*>(user);
+  SharedPtr<CallbackProxy> const proxy = ProxyOf(callback);
+  proxy->Run(data, context, [&callback] { callback.Callback(); });
+  return kOk;
+}
+
+}  // namespace
+
+void SetCallback(Model& model, ICallback* callback, int contextMask) {
+  if (callback == nullptr) {
+    model.SetCallback(nullptr, 0, nullptr, nullptr);
+    return;
+  }
+  if (callback->GetCallbackProxy() == nullptr) {
+    SetStatus(model.status, kInvalid, "The callback object has no proxy");
+    return;
+  }
+  auto attach = [callback, problem = model.Core().prob](int columnCount) {
+    return ProxyOf(*callback)->Attach(problem, columnCount);
+  };
+  if (!attach(model.Count<Var>())) {
+    SetStatus(model.status, kInvalid, "The callback is running for another model");
+    return;
+  }
+  model.SetCallback(RunCallback, contextMask, callback, attach);
+}
+
+}  // namespace Vorq
+
+extern "C" Vorq::ICallbackProxy* CreateCallbackProxy() {
+  return Vorq::Wrap<Vorq::ICallbackProxy>();
+}
