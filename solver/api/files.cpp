@@ -22,6 +22,7 @@
 #include "solver/files/sdpa_reader.hpp"
 #include "solver/files/solution_file.hpp"
 #include "solver/files/text_source.hpp"
+#include "solver/tasks/iis.hpp"
 
 namespace vorqsolver {
 namespace {
@@ -79,12 +80,16 @@ int ReadProblem(VORQ_Prob* prob, char const* path, ReadModel (*read)(TextSource 
   });
 }
 
+void WriteModelFile(Problem& problem, std::string const& path, WrittenModel const& model) {
+  WriteTextFile(path, model.text);
+  LogAll(problem, model.warnings);
+  problem.log.Line(Text("Wrote '", path, "'"));
+}
+
 int WriteProblem(VORQ_Prob* prob, char const* path, WrittenModel (*write)(ProblemData const&)) {
   return Guard(prob, [&](Problem& problem) {
-    WrittenModel const model = write(problem.data);
-    WriteTextFile(PathOf(path), model.text);
-    LogAll(problem, model.warnings);
-    problem.log.Line(Text("Wrote '", path, "'"));
+    std::string const target = PathOf(path);
+    WriteModelFile(problem, target, write(problem.data));
   });
 }
 
@@ -254,7 +259,11 @@ int VORQ_ReadTune(VORQ_Prob* prob, char const* path) {
   return Guard(prob, [&] { RefuseFormat(path, "read", "tuning files"); });
 }
 int VORQ_WriteIIS(VORQ_Prob* prob, char const* path) {
-  return Guard(prob, [&] { RefuseFormat(path, "write", "IIS files"); });
+  return Guard(prob, [&](Problem& problem) {
+    std::string const target = PathOf(path);
+    if (!problem.result.iis.available) Refuse("There is no IIS to write");
+    WriteModelFile(problem, target, WriteLp(IisProblem(problem.data, problem.result.iis)));
+  });
 }
 int VORQ_WriteRelax(VORQ_Prob* prob, char const* path) {
   return Guard(prob, [&] { RefuseFormat(path, "write", "feasibility relaxation files"); });

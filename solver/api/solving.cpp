@@ -7,7 +7,7 @@
 
 #include "solver/api/arguments.hpp"
 #include "solver/api/guard.hpp"
-#include "solver/tasks/callback_session.hpp"
+#include "solver/tasks/iis.hpp"
 
 using namespace vorqsolver;
 
@@ -86,7 +86,7 @@ int VORQ_Interrupt(VORQ_Prob* prob) {
 }
 
 int VORQ_ComputeIIS(VORQ_Prob* prob) {
-  return NotAvailable(prob, "The computation of an IIS");
+  return Guard(prob, [](Problem& problem) { ComputeIis(problem); });
 }
 
 int VORQ_FeasRelax(VORQ_Prob* prob, double const*, double const*, double const*, double const*) {

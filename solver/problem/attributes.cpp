@@ -195,7 +195,7 @@ constexpr AttrRow<double> kDblRows[] = {
     {"FeasRelaxObj", NotComputed},
 
     {"ReadingTime", NotComputed},
-    {"IISTime", NotComputed},
+    {"IISTime", [](P p) { return p.result.iis.seconds; }},
     {"FeasRelaxTime", NotComputed},
     {"TuneTime", NotComputed},
     {"PrimalInfMax", [](P p) { return PrimalInfeasibility(p).Max(); }},
@@ -256,7 +256,7 @@ constexpr AttrRow<int> kIntRows[] = {
     {"HasIIS", [](P p) { return p.result.iis.available ? 1 : 0; }},
     {"HasFeasRelaxSol", Never},
     {"IsMIP", [](P p) { return IsMip(p) ? 1 : 0; }},
-    {"IsMinIIS", [](P p) { return p.result.iis.available ? 1 : 0; }},
+    {"IsMinIIS", [](P p) { return p.result.iis.available && p.result.iis.irreducible ? 1 : 0; }},
 
     {"PrimalInf", [](P p) { return PrimalInfeasibility(p).Count(); }},
     {"DualInf", [](P p) { return DualInfeasibility(p).Count(); }},

@@ -56,9 +56,11 @@ struct QuadraticSolution {
   std::vector<double> duals;
 };
 
-// The members of an irreducible infeasible set: 1 or 0 for each bound and constraint.
+// The members of an infeasible set: 1 or 0 for each bound and constraint.
 struct Iis {
   bool available = false;
+  bool irreducible = true;  // proved: without any one member the rest is feasible
+  double seconds = 0.0;     // of its computation
   std::vector<int> colLower;
   std::vector<int> colUpper;
   std::vector<int> rowLower;
@@ -70,6 +72,16 @@ struct Iis {
 struct PoolSolution {
   double objective = 0.0;
   std::vector<double> values;
+};
+
+// The point that violates a problem the least, by the penalties of VORQ_FeasRelax.
+struct RelaxedSolution {
+  bool attempted = false;  // the relaxation was stated, whether or not it has a solution
+  bool available = false;
+  std::vector<double> values;  // one for each column
+  std::vector<double> slacks;  // one for each row, negative where the row is violated
+  double penalty = 0.0;        // what the violations cost
+  double seconds = 0.0;
 };
 
 struct MipStart {
@@ -107,11 +119,13 @@ struct SolveResult {
   std::string message;
 
   Iis iis;
+  RelaxedSolution relaxed;
 
   bool IsEmpty() const {
     return lpStatus == SolveStatus::kUnstarted && mipStatus == SolveStatus::kUnstarted && !isMip && !iis.available &&
-           lp.values.empty() && lp.slacks.empty() && lp.duals.empty() && lp.reducedCosts.empty() && mipValues.empty() &&
-           pool.empty() && basis.cols.empty() && basis.rows.empty() && engine.empty() && message.empty();
+           !relaxed.attempted && lp.values.empty() && lp.slacks.empty() && lp.duals.empty() &&
+           lp.reducedCosts.empty() && mipValues.empty() && pool.empty() && basis.cols.empty() && basis.rows.empty() &&
+           engine.empty() && message.empty();
   }
 };
 

@@ -31,9 +31,15 @@ bool Log::Enabled() const {
   return sink_ != nullptr || file_ || (parameters_ != nullptr && parameters_->GetInt("LogToConsole") != 0);
 }
 
+std::chrono::steady_clock::time_point Log::LastLine() const {
+  std::lock_guard lock(mutex_);
+  return lastLine_;
+}
+
 void Log::Line(std::string_view text) {
   std::lock_guard lock(mutex_);
   if (!Enabled()) return;
+  lastLine_ = std::chrono::steady_clock::now();
   bool const console = parameters_ != nullptr && parameters_->GetInt("LogToConsole") != 0;
   while (text.ends_with('\n')) text.remove_suffix(1);
   for (;;) {

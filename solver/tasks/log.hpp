@@ -1,6 +1,7 @@
 // Log: where the lines of a problem go: the caller's function, a file, and standard output where the parameters say so.
 #pragma once
 
+#include <chrono>
 #include <cstdio>
 #include <memory>
 #include <mutex>
@@ -29,6 +30,9 @@ class Log {
   // Whether a line would go anywhere; to spare the work of making it.
   bool Enabled() const;
 
+  // When the last line went out; the beginning of the clock if none has.
+  std::chrono::steady_clock::time_point LastLine() const;
+
   // Sends one line, without a line end; a text with line ends goes out line by line.
   void Line(std::string_view text);
 
@@ -46,6 +50,7 @@ class Log {
   mutable std::recursive_mutex mutex_;
   VORQ_LogFunction sink_ = nullptr;
   void* user_ = nullptr;
+  std::chrono::steady_clock::time_point lastLine_;
   std::unique_ptr<std::FILE, Close> file_;
 };
 

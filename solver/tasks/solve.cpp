@@ -10,8 +10,10 @@
 #include "solver/problem/deletion.hpp"
 #include "solver/problem/failure.hpp"
 #include "solver/tasks/check.hpp"
+#include "solver/tasks/running.hpp"
 #include "solver/tasks/solve_report.hpp"
 #include "solver/tasks/validate.hpp"
+#include "solver/tasks/watchdog.hpp"
 
 namespace vorqsolver {
 
@@ -96,29 +98,14 @@ SolveResult Run(Problem& problem, bool relaxed, Start const& start, Clock::time_
                        what.callback ? &problem.callbackSession : nullptr});
 }
 
-// True for as long as it lives.
-class Solving {
- public:
-  explicit Solving(Problem& problem) : problem_(problem) {
-    if (problem_.solving) throw Failure(VORQ_INVALID, "The problem is being solved already");
-    problem_.solving = true;
-  }
-  Solving(Solving const&) = delete;
-  Solving& operator=(Solving const&) = delete;
-  ~Solving() { problem_.solving = false; }
-
- private:
-  Problem& problem_;
-};
-
 }  // namespace
 
 void SolveProblem(Problem& problem, bool relaxed) {
-  Solving const solving(problem);
-  problem.interrupted = false;
+  Running const running(problem);
   auto const begin = Clock::now();
   auto const start = TakeStart(problem);
   problem.result = SolveResult();
+  Watchdog const watchdog(problem.log);
   problem.result = Run(problem, relaxed, start, begin);
   CheckResult(problem, relaxed);
   problem.result.seconds = std::chrono::duration<double>(Clock::now() - begin).count();

@@ -73,16 +73,21 @@ char const* StatusText(SolveStatus status) {
   return kTexts[static_cast<int>(status)];
 }
 
-void LogHeader(Problem& problem, bool relaxed) {
+void LogTitle(Problem& problem, char const* what) {
   if (!problem.log.Enabled()) return;
-  auto const& data = problem.data;
+  auto const& name = problem.data.name;
   char banner[256] = {};
   VORQ_GetBanner(banner, sizeof banner);
   problem.log.Line(banner);
-  problem.log.Print("%s %s%s%s", data.objective.sense < 0 ? "Maximising" : "Minimising",
-                    relaxed ? "the LP relaxation of " : "", data.name.empty() ? "the problem" : data.name.c_str(),
-                    data.name.empty() ? "" : ":");
+  problem.log.Line(std::string(what) + " " + (name.empty() ? "the problem" : name + ":"));
   LogCounts(problem);
+}
+
+void LogHeader(Problem& problem, bool relaxed) {
+  if (!problem.log.Enabled()) return;
+  auto const& data = problem.data;
+  std::string const sense = data.objective.sense < 0 ? "Maximising" : "Minimising";
+  LogTitle(problem, (sense + (relaxed ? " the LP relaxation of" : "")).c_str());
   // Ranges tell something where there is more than a handful of numbers.
   constexpr std::size_t kTiny = 20;
   if (data.rows.matrix.ElementCount() <= kTiny) return;

@@ -9,6 +9,9 @@ namespace vorqsolver {
 // The words for a status, such as "optimal".
 char const* StatusText(SolveStatus status);
 
+// The version, what is done to the problem, such as "Computing an IIS of", and its size.
+void LogTitle(Problem& problem, char const* what);
+
 void LogHeader(Problem& problem, bool relaxed);
 void LogEngine(Problem& problem, Engine const& engine, ProblemClass const& what);
 

@@ -9,12 +9,12 @@
 
 namespace vorqsolver {
 
-namespace {
-
 std::string Called(char const* kind, NameList const& names, int index) {
   auto const name = names.Get(index);
   return name.empty() ? Text(kind, " ", index) : Text(kind, " '", name, "'");
 }
+
+namespace {
 
 void RequireFinite(double value, char const* what, std::string const& owner) {
   if (!std::isfinite(value) || std::abs(value) >= kInfinity) Refuse(owner, ": ", what, " is ", value);

@@ -9,6 +9,9 @@ namespace vorqsolver {
 
 class ParameterSet;
 
+// An item as messages call it: "Row 'c1'", or "Row 4" where it has no name; `kind` is the first word.
+std::string Called(char const* kind, NameList const& names, int index);
+
 // Throws Failure(VORQ_INVALID) for numbers that are none or too large, and for indices out of range.
 void Validate(ProblemData const& data);
 
