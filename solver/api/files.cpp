@@ -22,6 +22,7 @@
 #include "solver/files/sdpa_reader.hpp"
 #include "solver/files/solution_file.hpp"
 #include "solver/files/text_source.hpp"
+#include "solver/tasks/feas_relax.hpp"
 #include "solver/tasks/iis.hpp"
 
 namespace vorqsolver {
@@ -113,6 +114,7 @@ struct Values {
 // The solution of the last solve.
 std::optional<Values> LastSolution(Problem const& problem) {
   SolveResult const& result = problem.result;
+  if (result.relaxed.available) return Values{result.relaxed.values, std::nullopt};
   bool const mip = result.isMip && !result.mipValues.empty();
   std::span<double const> const values = mip ? result.mipValues : result.lp.values;
   if (values.empty() || (result.isMip && !mip)) return std::nullopt;
@@ -266,7 +268,14 @@ int VORQ_WriteIIS(VORQ_Prob* prob, char const* path) {
   });
 }
 int VORQ_WriteRelax(VORQ_Prob* prob, char const* path) {
-  return Guard(prob, [&] { RefuseFormat(path, "write", "feasibility relaxation files"); });
+  return Guard(prob, [&](Problem& problem) {
+    constexpr int kBinary = 1;
+    std::string const target = PathOf(path);
+    auto const& relaxed = problem.result.relaxed;
+    if (!relaxed.attempted) Refuse("There is no feasibility relaxation to write");
+    if (problem.parameters.Int(IntParam::kRelaxFileType) == kBinary) RefuseFormat(path, "write", "binary files");
+    WriteModelFile(problem, target, WriteLp(RelaxationProblem(problem.data, relaxed.penalties, relaxed.mode)));
+  });
 }
 int VORQ_WriteTuneParam(VORQ_Prob* prob, int, char const* path) {
   return Guard(prob, [&] { RefuseFormat(path, "write", "tuning files"); });

@@ -23,6 +23,7 @@ std::vector<double> const& Found(std::vector<double> const& list, std::size_t co
 
 std::vector<double> const& ColumnValues(Problem const& problem) {
   auto const& result = problem.result;
+  if (result.relaxed.available) return result.relaxed.values;
   return Found(result.isMip ? result.mipValues : result.lp.values, problem.data.columns.type.size(), "solution");
 }
 
@@ -34,6 +35,8 @@ std::vector<double> const& OfLinearSolve(Problem const& problem, std::vector<dou
 }
 
 double SlackOfRow(Problem const& problem, int row) {
+  auto const& relaxed = problem.result.relaxed;
+  if (relaxed.available) return relaxed.slacks[static_cast<std::size_t>(row)];
   if (problem.result.isMip) return RowSlack(problem.data.rows, row, ColumnValues(problem));
   return Found(problem.result.lp.slacks, problem.data.rows.lower.size(), "slack")[static_cast<std::size_t>(row)];
 }

@@ -7,6 +7,7 @@
 
 #include "solver/api/arguments.hpp"
 #include "solver/api/guard.hpp"
+#include "solver/tasks/feas_relax.hpp"
 #include "solver/tasks/iis.hpp"
 
 using namespace vorqsolver;
@@ -89,8 +90,28 @@ int VORQ_ComputeIIS(VORQ_Prob* prob) {
   return Guard(prob, [](Problem& problem) { ComputeIis(problem); });
 }
 
-int VORQ_FeasRelax(VORQ_Prob* prob, double const*, double const*, double const*, double const*) {
-  return NotAvailable(prob, "The feasibility relaxation");
+// `rowBnd` prices the side `bound` of a row as VORQ_AddRow has it, `rowUpp` the side `upper` of a row between two
+// sides. Without `rowUpp` both sides take `rowBnd`; elsewhere a finite entry of `rowUpp` is for the upper side.
+int VORQ_FeasRelax(VORQ_Prob* prob, double const* colLow, double const* colUpp, double const* rowBnd,
+                   double const* rowUpp) {
+  return Guard(prob, [&](Problem& problem) {
+    auto const copy = [](double const* from, int count) {
+      return std::vector(from, from == nullptr ? from : from + count);
+    };
+    int const cols = problem.data.columns.Count();
+    auto const& rows = problem.data.rows;
+    RelaxPenalties penalties = {copy(colLow, cols), copy(colUpp, cols), copy(rowBnd, rows.Count()),
+                                copy(rowUpp == nullptr ? rowBnd : rowUpp, rows.Count())};
+    double const infinity = problem.parameters.Dbl(DblParam::kInfBound);
+    if (rowBnd != nullptr) {
+      for (int row = 0; row < rows.Count(); ++row) {
+        bool const isRange =
+            rows.lower[row] != rows.upper[row] && rows.lower[row] > -kInfinity && rows.upper[row] < kInfinity;
+        if (!isRange && penalties.rowUpper[row] >= infinity) penalties.rowUpper[row] = rowBnd[row];
+      }
+    }
+    RelaxFeasibility(problem, std::move(penalties));
+  });
 }
 
 int VORQ_Tune(VORQ_Prob* prob) {
@@ -107,6 +128,10 @@ int VORQ_GetSolution(VORQ_Prob* prob, double* values) {
   return Guard(prob, [&](Problem& problem) {
     Need(values, "values");
     auto const& result = problem.result;
+    if (result.relaxed.available) {
+      CopyOut(result.relaxed.values, values);
+      return;
+    }
     if (!result.isMip && problem.HasLpSolution()) {
       CopyOut(result.lp.values, values);
       return;
@@ -118,8 +143,9 @@ int VORQ_GetSolution(VORQ_Prob* prob, double* values) {
 
 int VORQ_GetLpSolution(VORQ_Prob* prob, double* values, double* slacks, double* duals, double* redCosts) {
   return Guard(prob, [&](Problem& problem) {
-    auto const& lp = problem.result.lp;
-    if (!problem.HasLpSolution()) Refuse("There is no LP solution");
+    auto const& relaxed = problem.result.relaxed;
+    auto const& lp = relaxed.available ? LpSolution{relaxed.values, relaxed.slacks, {}, {}} : problem.result.lp;
+    if (!relaxed.available && !problem.HasLpSolution()) Refuse("There is no LP solution");
     if (slacks != nullptr) RequireSize(lp.slacks.size(), problem.data.rows.Count(), "slack");
     if (duals != nullptr) RequireSize(lp.duals.size(), problem.data.rows.Count(), "dual solution");
     if (redCosts != nullptr) RequireSize(lp.reducedCosts.size(), problem.data.columns.Count(), "reduced cost");

@@ -88,6 +88,11 @@ double BestBound(Problem const& problem) {
   }
 }
 
+double RelaxedPenalty(Problem const& problem) {
+  if (!problem.result.relaxed.available) Refuse("There is no feasibility relaxation");
+  return problem.result.relaxed.penalty;
+}
+
 double BestGap(Problem const& problem) {
   return problem.HasMipSolution() ? problem.result.bestGap : kInfinity;
 }
@@ -192,11 +197,11 @@ constexpr AttrRow<double> kDblRows[] = {
     {"BestObj", BestObjective},
     {"BestBnd", BestBound},
     {"BestGap", BestGap},
-    {"FeasRelaxObj", NotComputed},
+    {"FeasRelaxObj", RelaxedPenalty},
 
     {"ReadingTime", NotComputed},
     {"IISTime", [](P p) { return p.result.iis.seconds; }},
-    {"FeasRelaxTime", NotComputed},
+    {"FeasRelaxTime", [](P p) { return p.result.relaxed.seconds; }},
     {"TuneTime", NotComputed},
     {"PrimalInfMax", [](P p) { return PrimalInfeasibility(p).Max(); }},
     {"PrimalInfSum", [](P p) { return PrimalInfeasibility(p).Sum(); }},
@@ -254,7 +259,7 @@ constexpr AttrRow<int> kIntRows[] = {
     {"HasNLObj", Never},
     {"HasPSDObj", [](P p) { return p.data.objective.psd.empty() ? 0 : 1; }},
     {"HasIIS", [](P p) { return p.result.iis.available ? 1 : 0; }},
-    {"HasFeasRelaxSol", Never},
+    {"HasFeasRelaxSol", [](P p) { return p.result.relaxed.available ? 1 : 0; }},
     {"IsMIP", [](P p) { return IsMip(p) ? 1 : 0; }},
     {"IsMinIIS", [](P p) { return p.result.iis.available && p.result.iis.irreducible ? 1 : 0; }},
 

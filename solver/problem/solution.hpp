@@ -74,13 +74,34 @@ struct PoolSolution {
   std::vector<double> values;
 };
 
+// The values of the parameter FeasRelaxMode: what is minimised, for each odd value with the problem's own objective
+// among the least violations.
+enum class RelaxMode : int {
+  kSum = 0,
+  kSumThenObjective = 1,
+  kCount = 2,
+  kCountThenObjective = 3,
+  kSquares = 4,
+  kSquaresThenObjective = 5,
+};
+
+// What a violation by 1 costs, one for each column or row; kInfinity for what must hold, empty where all must.
+struct RelaxPenalties {
+  std::vector<double> colLower;
+  std::vector<double> colUpper;
+  std::vector<double> rowLower;
+  std::vector<double> rowUpper;
+};
+
 // The point that violates a problem the least, by the penalties of VORQ_FeasRelax.
 struct RelaxedSolution {
   bool attempted = false;  // the relaxation was stated, whether or not it has a solution
   bool available = false;
   std::vector<double> values;  // one for each column
-  std::vector<double> slacks;  // one for each row, negative where the row is violated
+  std::vector<double> slacks;  // one for each row
   double penalty = 0.0;        // what the violations cost
+  RelaxPenalties penalties;
+  RelaxMode mode = RelaxMode::kSum;
   double seconds = 0.0;
 };
 
