@@ -39,8 +39,13 @@ using Outcome = TreeRelaxation::Outcome;
 class BranchAndCut {
  public:
   explicit BranchAndCut(SolveTask const& task)
+      : BranchAndCut(task, MipModel(task.data, task.parameters, LinearModel(task.data, LinearModel::NoSideRows())),
+                     task.parameters.Int(IntParam::kNodeLimit)) {}
+
+  BranchAndCut(SolveTask const& task, MipModel mip, int nodeLimit)
       : task_(task),
-        mip_(task.data, task.parameters, LinearModel(task.data, LinearModel::NoSideRows())),
+        mip_(std::move(mip)),
+        nodeLimit_(nodeLimit),
         pool_(task.parameters.Dbl(DblParam::kFeasTol)),
         progress_(task),
         tick_([this](ClpSimplex const*) { progress_.Tick(); }),
@@ -71,6 +76,7 @@ class BranchAndCut {
   bool Separate();
   bool AddCuts();
   NodeEnd Split(SearchNode const& node, BranchChoice const& choice);
+  bool HasHeuristics() const { return task_.parameters.Int(IntParam::kHeurLevel) != 0 && mip_.sets.empty(); }
   bool IsTimeToDive();
   void Dive(SearchNode const& node);
   void SearchNeighbourhood();
@@ -86,6 +92,7 @@ class BranchAndCut {
 
   SolveTask const& task_;
   MipModel mip_;
+  int nodeLimit_;  // negative for none
   CutPool pool_;
   MipProgress progress_;
   IterationWatch::Report tick_;
@@ -230,8 +237,7 @@ bool BranchAndCut::IsAtLimit() {
     if (gap <= task_.parameters.Dbl(DblParam::kAbsGap)) return true;
     if (gap <= task_.parameters.Dbl(DblParam::kRelGap) * objective) return true;
   }
-  int const limit = task_.parameters.Int(IntParam::kNodeLimit);
-  isAtNodeLimit_ = limit >= 0 && nodes_ >= limit && nodes_ > 0;
+  isAtNodeLimit_ = nodeLimit_ >= 0 && nodes_ >= nodeLimit_ && nodes_ > 0;
   return isAtNodeLimit_;
 }
 
@@ -305,7 +311,7 @@ BranchAndCut::NodeEnd BranchAndCut::Process(SearchNode& node) {
       relaxation_.MoveTo(node.changes);
       continue;
     }
-    if (nodes_ >= nextNeighbourhood_ && task_.parameters.Int(IntParam::kHeurLevel) != 0) {
+    if (nodes_ >= nextNeighbourhood_ && HasHeuristics()) {
       nextNeighbourhood_ *= 2;
       SearchNeighbourhood();
       if (task_.stop.Asked()) return NodeEnd::kStopped;
@@ -379,7 +385,7 @@ BranchAndCut::NodeEnd BranchAndCut::Split(SearchNode const& node, BranchChoice c
 bool BranchAndCut::IsTimeToDive() {
   constexpr int kSeldom = 200;
   constexpr int kOften = 30;
-  if (task_.parameters.Int(IntParam::kHeurLevel) == 0 || !mip_.sets.empty()) return false;
+  if (!HasHeuristics()) return false;
   if (nodes_ > 0 && nodes_ < nextDive_) return false;
   nextDive_ = nodes_ + (solutions_.Incumbents().IsEmpty() ? kOften : kSeldom);
   return true;
@@ -497,6 +503,21 @@ SolveResult BranchAndCut::Finish() {
 }
 
 }  // namespace
+
+std::optional<std::vector<double>> SearchWithSets(LinearModel const& linear, MipModel const& mip, SolveTask const& task,
+                                                  int nodeLimit) {
+  Basis const noBasis;
+  std::vector<double> const noValues;
+  std::vector<MipStart> const noStarts;
+  StopSignal stop = task.stop;
+  Log quiet;
+  SolveTask const sub{task.data, task.parameters, noBasis, noValues, noStarts, stop, quiet};
+  MipModel model = mip;
+  model.linear = linear;
+  auto result = BranchAndCut(sub, std::move(model), nodeLimit).Run();
+  if (result.mipValues.empty()) return std::nullopt;
+  return std::move(result.mipValues);
+}
 
 std::string BranchAndCutEngine::Version() const {
   return Text("over Clp ", CLP_VERSION);

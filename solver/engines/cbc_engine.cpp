@@ -14,6 +14,7 @@
 #include <cmath>
 #include <memory>
 
+#include "solver/engines/branch_and_cut.hpp"
 #include "solver/engines/cbc_setup.hpp"
 #include "solver/engines/clp_control.hpp"
 #include "solver/engines/mip_incumbents.hpp"
@@ -74,6 +75,7 @@ class CbcSolver {
     result_.isMip = true;
   }
 
+  bool HasSets() const { return !mip_.sets.empty(); }
   SolveResult Run();
 
  private:
@@ -477,10 +479,14 @@ bool CbcEngine::Supports(ProblemClass const& what) const {
 
 SolveResult CbcEngine::Solve(SolveTask const& task) const {
   try {
-    return CbcSolver(task).Run();
+    CbcSolver solver(task);
+    if (!solver.HasSets()) return solver.Run();
   } catch (CoinError const& error) {
     throw Failure(VORQ_INTERNAL, "The engine Cbc failed: " + error.message());
   }
+  // Beside integer columns, Cbc's choice of a branch on a set can fail.
+  task.log.Line("Sets beside the rows: searched by the engine Vorq");
+  return BranchAndCutEngine().Solve(task);
 }
 
 }  // namespace vorqsolver

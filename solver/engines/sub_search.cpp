@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "solver/engines/branch_and_cut.hpp"
 #include "solver/engines/cbc_setup.hpp"
 #include "solver/engines/clp_control.hpp"
 
@@ -13,6 +14,7 @@ namespace vorqsolver {
 
 std::optional<std::vector<double>> SearchModel(LinearModel const& linear, MipModel const& mip, SolveTask const& task,
                                                SubSearchLimits const& limits) {
+  if (!mip.sets.empty()) return SearchWithSets(linear, mip, task, limits.nodes);
   SilentHandler silent;
   IterationWatch::Report tick = [](ClpSimplex const*) {};
   OsiClpSolverInterface solver;
@@ -36,11 +38,10 @@ std::optional<std::vector<double>> SearchModel(LinearModel const& linear, MipMod
   CbcModel model(solver);
   model.passInMessageHandler(&silent);
   model.setLogLevel(0);
-  SetUpCbc(model, task.parameters, !mip.sets.empty());
+  SetUpCbc(model, task.parameters, false);
   model.setMaximumNodes(limits.nodes);
   model.setUseElapsedTime(true);
   model.setMaximumSeconds(std::max(0.0, std::min(limits.seconds, task.stop.Remaining())));
-  AddSets(model, mip.sets);
   if (std::isfinite(limits.cutoff)) model.setCutoff(limits.cutoff);
   tick = [&](ClpSimplex const*) {
     if (task.stop.Asked()) model.sayEventHappened();

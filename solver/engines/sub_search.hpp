@@ -17,8 +17,8 @@ struct SubSearchLimits {
   double seconds = std::numeric_limits<double>::infinity();
 };
 
-// `linear` has the columns of `mip`, whose integer columns and sets hold. The values of all columns; none if nothing
-// was found.
+// `linear` has the columns of `mip`, whose integer columns and sets hold. The values of the problem's columns and maybe
+// more; none if nothing was found.
 std::optional<std::vector<double>> SearchModel(LinearModel const& linear, MipModel const& mip, SolveTask const& task,
                                                SubSearchLimits const& limits);
 
