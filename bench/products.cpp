@@ -1,5 +1,6 @@
 // What the cells of products with variables cost over the same work on plain arrays, in turn: a sparse matrix of a
-// million rows with ten entries each, in both forms, and a dense matrix of 2000 rows and columns.
+// million rows with ten entries each, in both forms, and a dense matrix of 2000 rows and columns, whose cells stay lazy
+// or are expanded.
 //
 //     products [REPEATS]
 //
@@ -17,6 +18,9 @@
 #include <vorq>
 
 #include "bench/measure.hpp"
+#include "handles/matrix_expressions.hpp"
+#include "handles/matrix_items.hpp"
+#include "matrix/dense_products.hpp"
 
 namespace {
 
@@ -62,8 +66,9 @@ struct Case {
   std::string name;
   std::uint64_t cells;
   std::function<void()> plain;
-  std::function<Vorq::IMLinExpr<1>*()> vorq;
-  // The text of the sample cell.
+  std::function<void()> vorq;
+  // The text of the sample cell, as it is and as it must be.
+  std::function<std::string()> sample;
   std::string expected;
 };
 
@@ -72,13 +77,11 @@ bool Run(Case const& work, int repeats) {
   std::vector<bench::Cost> plainCosts, vorqCosts;
   for (int repeat = 0; repeat < repeats; ++repeat) {
     plainCosts.push_back(bench::Measure(work.plain));
-    vorqCosts.push_back(bench::Measure([&work] { delete work.vorq(); }));
+    vorqCosts.push_back(bench::Measure(work.vorq));
   }
   bench::Cost const plain = bench::Median(plainCosts);
   bench::Cost const vorq = bench::Median(vorqCosts);
-  std::unique_ptr<Vorq::IMLinExpr<1>> const result(work.vorq());
-  std::unique_ptr<Vorq::IMExpression> const sample(result->Get(kSample));
-  bool const right = result->GetSize() == work.cells && sample->ToString(1000) == work.expected;
+  bool const right = work.sample() == work.expected;
   auto const cells = static_cast<double>(work.cells);
   std::printf(
       "%-24s plain %.4f s %6.1f ns/cell %6.1f MB | vorq %.4f s %6.1f ns/cell %6.1f MB | ratio %6.2f | allocations a "
@@ -97,7 +100,7 @@ class Bench {
     y_.reset(MakeVars(model, kSide));
     dense_.resize(std::size_t{kSide} * kSide);
     for (std::size_t k = 0; k < dense_.size(); ++k) dense_[k] = 1.0 + static_cast<double>(k % 7);
-    denseArray_.reset(CreateNdArrayDbl2WithExData(dense_.data(), kSide, kSide));
+    denseArray_ = Numbers(Vorq::NDim<2>({kSide, kSide}), Vorq::SharedPtr<double>(dense_.data(), 0));
   }
 
   bool RunAll(int repeats) {
@@ -107,6 +110,8 @@ class Bench {
   }
 
  private:
+  using Numbers = Vorq::NdArray<double, 2>;
+
   static Vorq::IMVar<1>* MakeVars(Vorq::IModel& model, int count) {
     std::unique_ptr<Vorq::IMFactory> const factory(CreateMFactory());
     std::unique_ptr<Vorq::INDim<1>> const shape(factory->CreateNDim(static_cast<std::uint64_t>(count)));
@@ -181,14 +186,41 @@ class Bench {
     }
     return text;
   }
+  static std::string TextOf(Vorq::IMLinExpr<1>* block) {
+    std::unique_ptr<Vorq::IMLinExpr<1>> const owner(block);
+    return Vorq::Unwrap(block).Get(kSample).ToString(1000);
+  }
+
+  // Cells with views, and cells with terms of their own.
+  Vorq::MLinExpr<1> LazyProduct() const { return Vorq::MatMult(denseArray_, Vorq::Unwrap(y_.get())); }
+  Vorq::MLinExpr<1> ExpandedProduct() const {
+    Vorq::MLinExpr<1> expanded(Vorq::NDim<1>({kSide}), Vorq::MExpression());
+    expanded.AddBlock(LazyProduct(), 1.0);
+    return expanded;
+  }
   // What the cell of the dense product prints: no explicit part, then one term for each 8 characters.
-  std::string TextOfDense() const {
+  std::string TextOfLazy() const {
     std::string text = "0";
     for (std::size_t j = 0; j < (1000 - 1) / 8; ++j) {
       text += " + " + std::to_string(static_cast<int>(dense_[kSample * kSide + j])) + " * " +
               NameOf(*y_, static_cast<int>(j));
     }
     return text + " ... ";
+  }
+  // Half of the characters are for the explicit part, again one term for each 8.
+  std::string TextOfExpanded() const {
+    std::string text;
+    for (std::size_t j = 0; j < 500 / 8; ++j) {
+      Append(text, dense_[kSample * kSide + j], NameOf(*y_, static_cast<int>(j)));
+    }
+    return text + " ... ";
+  }
+
+  // A case of a sparse product, made by one of the exported functions.
+  template <class Make>
+  static Case SparseCase(std::string name, std::function<void()> plain, Make make, std::string expected) {
+    return {std::move(name),    kRows, std::move(plain), [make] { delete make(); }, [make] { return TextOf(make()); },
+            std::move(expected)};
   }
 
   std::vector<Case> Cases() const {
@@ -197,33 +229,41 @@ class Bench {
     auto const& [beg, idx, val] = sparse_;
     auto const starts = static_cast<int>(beg.size());
     return {
-        {"sparse rows times x", kRows, [this] { PlainRows(); },
-         [&, starts, this] {
-           return CsrMatMultMVar1(kRows, beg.data(), starts, idx.data(), kEntries, val.data(), kEntries, x_.get());
-         },
-         row},
-        {"x times sparse columns", kRows, [this] { PlainRows(); },
-         [&, starts, this] {
-           return MVar1MatMultCsc(x_.get(), kRows, beg.data(), starts, idx.data(), kEntries, val.data(), kEntries);
-         },
-         row},
-        {"sparse columns times x", kRows, [this] { PlainColumns(); },
-         [&, starts, this] {
-           return CscMatMultMVar1(kRows, beg.data(), starts, idx.data(), kEntries, val.data(), kEntries, x_.get());
-         },
-         column},
-        {"x times sparse rows", kRows, [this] { PlainColumns(); },
-         [&, starts, this] {
-           return MVar1MatMultCsr(x_.get(), kRows, beg.data(), starts, idx.data(), kEntries, val.data(), kEntries);
-         },
-         column},
+        SparseCase(
+            "sparse rows times x", [this] { PlainRows(); },
+            [&, starts, this] {
+              return CsrMatMultMVar1(kRows, beg.data(), starts, idx.data(), kEntries, val.data(), kEntries, x_.get());
+            },
+            row),
+        SparseCase(
+            "x times sparse columns", [this] { PlainRows(); },
+            [&, starts, this] {
+              return MVar1MatMultCsc(x_.get(), kRows, beg.data(), starts, idx.data(), kEntries, val.data(), kEntries);
+            },
+            row),
+        SparseCase(
+            "sparse columns times x", [this] { PlainColumns(); },
+            [&, starts, this] {
+              return CscMatMultMVar1(kRows, beg.data(), starts, idx.data(), kEntries, val.data(), kEntries, x_.get());
+            },
+            column),
+        SparseCase(
+            "x times sparse rows", [this] { PlainColumns(); },
+            [&, starts, this] {
+              return MVar1MatMultCsr(x_.get(), kRows, beg.data(), starts, idx.data(), kEntries, val.data(), kEntries);
+            },
+            column),
+        {"dense rows times x", kSide, [this] { PlainDense(); }, [this] { Keep(LazyProduct()); },
+         [this] { return LazyProduct().Get(kSample).ToString(1000); }, TextOfLazy()},
+        {"dense, expanded", kSide, [this] { PlainDense(); }, [this] { Keep(ExpandedProduct()); },
+         [this] { return ExpandedProduct().Get(kSample).ToString(1000); }, TextOfExpanded()},
     };
   }
 
   Sparse const sparse_;
   std::unique_ptr<Vorq::IMVar<1>> x_, y_;
   std::vector<double> dense_;
-  std::unique_ptr<Vorq::INdArray<double, 2>> denseArray_;
+  Numbers denseArray_;
 };
 
 }  // namespace

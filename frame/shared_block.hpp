@@ -9,9 +9,9 @@ namespace Vorq {
 
 // How the memory of the elements was taken.
 enum class SharedForm : std::uint8_t {
-  kPlain,   // by new, apart from the block
-  kJoined,  // a single object in one allocation with its block
-  kSlots    // an array of slots, apart from the block, whose elements are destroyed one by one
+  kPlain,    // by new, apart from the block
+  kJoined,   // a single object in one allocation with its block
+  kElements  // an array in one allocation with its block, whose elements are destroyed one by one
 };
 
 // `count` decides what the last release does: 0 leaves the memory alone, 1 deletes a single object, more deletes an

@@ -12,6 +12,7 @@
 #pragma once
 
 #include <cstddef>
+#include <limits>
 #include <memory>
 #include <new>
 #include <type_traits>
@@ -98,10 +99,41 @@ class SharedPtr {
     T object;
   };
 
-  // Room for an element. The array form of delete on slots runs no destructor, so that elements in slots can be
-  // destroyed in ascending order, which the array form on elements does not do.
-  struct Slot {
-    alignas(T) std::byte room[sizeof(T)];
+  // Block and elements in one allocation. The elements stand behind the block, and are made and destroyed one by one,
+  // in ascending order, which the array forms of new and delete do not do.
+  class alignas(T) alignas(SharedBlock) ArrayBlock : public SharedBlock {
+   public:
+    static ArrayBlock* New(std::size_t elements) {
+      if (elements > (std::numeric_limits<std::size_t>::max() - sizeof(ArrayBlock)) / sizeof(T)) {
+        throw std::bad_array_new_length();
+      }
+      return ::new (Allocate(sizeof(ArrayBlock) + elements * sizeof(T))) ArrayBlock(elements);
+    }
+    // The elements must have been destroyed.
+    static void Delete(ArrayBlock* block) noexcept {
+      block->~ArrayBlock();
+      if constexpr (kIsOverAligned) {
+        ::operator delete(block, kAlignment);
+      } else {
+        ::operator delete(block);
+      }
+    }
+
+    T* Elements() const { return static_cast<T*>(ptr); }
+
+   private:
+    static constexpr bool kIsOverAligned = alignof(T) > __STDCPP_DEFAULT_NEW_ALIGNMENT__;
+    static constexpr std::align_val_t kAlignment{alignof(T)};
+
+    explicit ArrayBlock(std::size_t elements) : SharedBlock(this + 1, elements) { form = SharedForm::kElements; }
+
+    static void* Allocate(std::size_t size) {
+      if constexpr (kIsOverAligned) {
+        return ::operator new(size, kAlignment);
+      } else {
+        return ::operator new(size);
+      }
+    }
   };
 
   static void KeepObject(T*) {}
@@ -132,10 +164,9 @@ class SharedPtr {
         delete static_cast<Joined*>(block_);
         return;
       }
-      if (block_->form == SharedForm::kSlots) {
+      if (block_->form == SharedForm::kElements) {
         std::destroy_n(object, block_->count);
-        delete[] reinterpret_cast<Slot*>(object);
-        delete block_;
+        ArrayBlock::Delete(static_cast<ArrayBlock*>(block_));
         return;
       }
     }
@@ -166,39 +197,37 @@ class SharedArrayBuilder {
  public:
   static_assert(SharedPtr<T>::kCanJoin);
 
-  explicit SharedArrayBuilder(std::size_t count) : slots_(count == 0 ? nullptr : new Slot[count]), count_(count) {}
+  explicit SharedArrayBuilder(std::size_t count) : block_(count == 0 ? nullptr : ArrayBlock::New(count)) {}
   SharedArrayBuilder(SharedArrayBuilder const&) = delete;
   SharedArrayBuilder& operator=(SharedArrayBuilder const&) = delete;
-  ~SharedArrayBuilder() { std::destroy_n(Elements(), made_); }
+  ~SharedArrayBuilder() {
+    if (block_ == nullptr) return;
+    std::destroy_n(block_->Elements(), made_);
+    ArrayBlock::Delete(block_);
+  }
 
   // Makes the next element; there must be one left to make.
   template <class... Args>
   T& Emplace(Args&&... args) {
-    T* const element = ::new (static_cast<void*>(slots_[made_].room)) T(std::forward<Args>(args)...);
+    T* const element = ::new (static_cast<void*>(block_->Elements() + made_)) T(std::forward<Args>(args)...);
     ++made_;
     return *element;
   }
 
   // The array, a null holder for one of no elements. Elements that were not made are default ones.
   SharedPtr<T> Finish() {
+    if (block_ != nullptr) {
+      while (made_ < block_->count) Emplace();
+    }
     SharedPtr<T> holder;
-    if (count_ == 0) return holder;
-    auto block = std::make_unique<SharedBlock>(Elements(), count_);
-    block->form = SharedForm::kSlots;
-    while (made_ < count_) Emplace();
-    static_cast<void>(slots_.release());
-    made_ = count_ = 0;
-    holder.block_ = block.release();
+    holder.block_ = std::exchange(block_, nullptr);
     return holder;
   }
 
  private:
-  using Slot = typename SharedPtr<T>::Slot;
+  using ArrayBlock = typename SharedPtr<T>::ArrayBlock;
 
-  T* Elements() const { return reinterpret_cast<T*>(slots_.get()); }
-
-  std::unique_ptr<Slot[]> slots_;
-  std::size_t count_;
+  ArrayBlock* block_;
   std::size_t made_ = 0;
 };
 

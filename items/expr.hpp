@@ -15,6 +15,11 @@ class Expr {
   Expr() = default;
   explicit Expr(double value) : constant(value) {}
   Expr(Var const& var, double c) { AddTerm(var, c); }
+  Expr(Expr const&) = default;
+  Expr(Expr&&) noexcept = default;
+  Expr& operator=(Expr const&) = default;
+  Expr& operator=(Expr&&) noexcept = default;
+  ~Expr() { ReleaseItems(vars); }
 
   std::size_t Size() const { return coeffs.size(); }
 

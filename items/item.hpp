@@ -29,6 +29,9 @@ class Item {
   // Marks a live item as removed, for the model's next flush to carry out. Any other item stays as it is.
   void MarkRemoved();
 
+  // Asks for the memory that a copy, or the end of one, counts in. Worth it ahead of many that lie apart.
+  void Prefetch() const { __builtin_prefetch(record_.Block(), 1); }
+
  protected:
   VORQ_Prob* Prob() const { return record_->prob->prob; }
 

@@ -42,6 +42,19 @@ void MakeRoomForMore(std::size_t count, Lists&... lists) {
   (grow(lists), ...);
 }
 
+// Empties a list of items ahead of its end. Items lie apart in memory, each with a counter: those of the next terms are
+// asked for early, so that they come together.
+template <class Item>
+void ReleaseItems(std::vector<Item>& items) noexcept {
+  constexpr std::size_t kAhead = 12;
+  std::size_t const count = items.size();
+  for (std::size_t i = count - std::min(count, kAhead); i < count; ++i) items[i].Prefetch();
+  while (!items.empty()) {
+    if (items.size() > kAhead) items[items.size() - 1 - kAhead].Prefetch();
+    items.pop_back();
+  }
+}
+
 // Removes the term at `i`, a position that exists: the last one takes its place.
 template <class... Lists>
 void SwapRemove(std::size_t i, Lists&... lists) {

@@ -27,7 +27,8 @@ void EmplaceProduct(SharedArrayBuilder<MQExpression>& out, StridedVector<Left> r
 }
 
 // The number of terms that c times a cell adds. The explicit ones of an expression are left out for 0.
-inline std::size_t AddedTerms(Var const&, double) {
+inline std::size_t AddedTerms(Var const& var, double) {
+  var.Prefetch();
   return 1;
 }
 inline std::size_t AddedTerms(MExpression const& cell, double c) {

@@ -113,10 +113,9 @@ MatrixObject<Cell, N> MatrixObject<Cell, N>::Clone() const {
 
 template <class Cell, int N>
 NdArray<Cell, N> MatrixObject<Cell, N>::CopyCells() const {
-  auto copy = NdArray<Cell, N>::Fresh(cells_.GetShape());
-  Cell* target = copy.Store().Get();
-  cells_.ForEach([&target](Cell const& cell) { *target++ = cell; });
-  return copy;
+  SharedArrayBuilder<Cell> copies(cells_.GetShape().StoreSize());
+  cells_.ForEach([&copies](Cell const& cell) { copies.Emplace(cell); });
+  return NdArray<Cell, N>(cells_.GetShape().Clone(), copies.Finish());
 }
 
 template <class Cell, int N>

@@ -15,16 +15,20 @@ BlockOf<Cell, N> FailedOperation(char const* text) {
   return BlockOf<Cell, N>(std::move(cells));
 }
 
+// Numbers go to `out` and move it on.
+template <Operation kOperation, class Left, class Right, Number Out>
+void OperateOnRun(std::uint64_t count, Left const* left, std::int64_t leftStride, Right const* right,
+                  std::int64_t rightStride, Out*& out) {
+  auto operate = [](Left a, Right b) { return OperateNumbers<kOperation, Out>(a, b); };
+  CombineRun(static_cast<std::int64_t>(count), left, leftStride, right, rightStride, out, operate);
+  out += count;
+}
+
 template <Operation kOperation, class Left, class Right, class Out>
 void OperateOnRun(std::uint64_t count, Left const* left, std::int64_t leftStride, Right const* right,
-                  std::int64_t rightStride, Out* out) {
-  if constexpr (Number<Out>) {
-    auto operate = [](Left a, Right b) { return OperateNumbers<kOperation, Out>(a, b); };
-    CombineRun(static_cast<std::int64_t>(count), left, leftStride, right, rightStride, out, operate);
-  } else {
-    for (; count > 0; --count, left += leftStride, right += rightStride) {
-      OperateCells<kOperation>(*out++, *left, *right);
-    }
+                  std::int64_t rightStride, SharedArrayBuilder<Out>& out) {
+  for (; count > 0; --count, left += leftStride, right += rightStride) {
+    OperateCells<kOperation>(out.Emplace(), *left, *right);
   }
 }
 
@@ -40,17 +44,25 @@ BlockOf<OperatorResult<kOperation, Left, Right>, N> OperateViews(NdArray<Left, N
                                      rightShape.ToString(kSizes))
                                         .c_str());
   }
-  auto result = NdArray<Cell, N>::Fresh(leftShape);
-  if (result.GetSize() == 0) return BlockOf<Cell, N>(std::move(result));
-  Cell* out = result.Store().Get();
-  auto const axes = PairAxes(leftShape, rightShape);
-  ForEachPairRun(axes, leftShape.Start(), rightShape.Start(),
-                 [&](std::uint64_t count, std::int64_t leftStart, std::int64_t rightStart) {
-                   OperateOnRun<kOperation>(count, left.Store().Get() + leftStart, axes.back().left,
-                                            right.Store().Get() + rightStart, axes.back().right, out);
-                   out += count;
-                 });
-  return BlockOf<Cell, N>(std::move(result));
+  auto const operateOnAll = [&](auto& out) {
+    if (leftShape.GetSize() == 0) return;
+    auto const axes = PairAxes(leftShape, rightShape);
+    ForEachPairRun(axes, leftShape.Start(), rightShape.Start(),
+                   [&](std::uint64_t count, std::int64_t leftStart, std::int64_t rightStart) {
+                     OperateOnRun<kOperation>(count, left.Store().Get() + leftStart, axes.back().left,
+                                              right.Store().Get() + rightStart, axes.back().right, out);
+                   });
+  };
+  if constexpr (Number<Cell>) {
+    auto result = NdArray<Cell, N>::Fresh(leftShape);
+    Cell* out = result.Store().Get();
+    operateOnAll(out);
+    return result;
+  } else {
+    SharedArrayBuilder<Cell> cells(leftShape.StoreSize());
+    operateOnAll(cells);
+    return BlockOf<Cell, N>(NdArray<Cell, N>(leftShape.Clone(), cells.Finish()));
+  }
 }
 
 // `store` seen through `shape`. Where there is nothing to see each position reads a default element.

@@ -43,10 +43,16 @@ class NdArray {
   // The same with fill(i) for each flat index i, in ascending order.
   template <class FillFunction>
   static NdArray Generated(NDim<N> const& shape, FillFunction&& fill) {
-    NdArray result = Fresh(shape);
-    std::uint64_t const size = result.GetSize();
-    for (std::uint64_t i = 0; i < size; ++i) result.store_[i] = fill(i);
-    return result;
+    std::uint64_t const size = shape.StoreSize();
+    if constexpr (std::is_arithmetic_v<T>) {
+      NdArray result = Fresh(shape);
+      for (std::uint64_t i = 0; i < size; ++i) result.store_[i] = fill(i);
+      return result;
+    } else {
+      SharedArrayBuilder<T> elements(size);
+      for (std::uint64_t i = 0; i < size; ++i) elements.Emplace(fill(i));
+      return NdArray(shape.Clone(), elements.Finish());
+    }
   }
 
   // Every size 1, with a copy of `value`: the form of a failed result.

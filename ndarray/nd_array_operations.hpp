@@ -13,12 +13,14 @@ namespace Vorq {
 
 template <class T, int N>
 NdArray<T, N> NdArray<T, N>::Filled(NDim<N> const& shape, T const& value) {
-  if constexpr (!std::is_trivially_destructible_v<T>) {
+  if constexpr (std::is_arithmetic_v<T>) {
+    NdArray result = Fresh(shape);
+    std::fill_n(result.store_.Get(), result.GetSize(), value);
+    return result;
+  } else {
     if (shape.StoreSize() == 1) return NdArray(shape.Clone(), MakeShared<T>(value));
+    return Generated(shape, [&value](std::uint64_t) -> T const& { return value; });
   }
-  NdArray result = Fresh(shape);
-  std::fill_n(result.store_.Get(), result.GetSize(), value);
-  return result;
 }
 
 template <class T, int N>

@@ -17,8 +17,8 @@ using Vorq::SparseMatrix;
 using Vorq::SparseOrder;
 
 constexpr std::uint64_t kCells = 500;
-// The store of a result and its block.
-constexpr std::size_t kStore = 2;
+// The store of a result.
+constexpr std::size_t kStore = 1;
 
 class ProductMemory : public OperandTest {
  protected:
