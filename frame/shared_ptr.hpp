@@ -11,6 +11,7 @@
 // Counting is atomic, so holders may be copied and released by several threads at once; nothing else is guarded.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <limits>
 #include <memory>
@@ -101,7 +102,7 @@ class SharedPtr {
 
   // Block and elements in one allocation. The elements stand behind the block, and are made and destroyed one by one,
   // in ascending order, which the array forms of new and delete do not do.
-  class alignas(T) alignas(SharedBlock) ArrayBlock : public SharedBlock {
+  class alignas(std::max(alignof(T), alignof(SharedBlock))) ArrayBlock : public SharedBlock {
    public:
     static ArrayBlock* New(std::size_t elements) {
       if (elements > (std::numeric_limits<std::size_t>::max() - sizeof(ArrayBlock)) / sizeof(T)) {
