@@ -4,8 +4,6 @@
 //
 // Prints the median processor time of each, the release of the result included, their ratio, the time, the
 // allocations a cell and the growth of the peak memory. A result that is not the plain one ends the program with 1.
-#include <malloc.h>
-
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -52,26 +50,12 @@ struct Case {
   std::function<bool()> check;
 };
 
-// The cost of a pass over operands that the process has touched before: a forked child pays once for its copies of the
-// operands' pages.
-bench::Cost MeasurePass(std::function<void()> const& work) {
-  constexpr int kPasses = 5;
-  // What the process has free would hide what a pass takes.
-  malloc_trim(0);
-  bench::Cost pass = bench::Measure(work);
-  bench::Cost const all = bench::Measure([&work] {
-    for (int i = 0; i <= kPasses; ++i) work();
-  });
-  pass.seconds = (all.seconds - pass.seconds) / kPasses;
-  return pass;
-}
-
 // False for a wrong result.
 bool Run(Case const& work, int repeats) {
   std::vector<bench::Cost> plainCosts, vorqCosts;
   for (int repeat = 0; repeat < repeats; ++repeat) {
-    plainCosts.push_back(MeasurePass(work.plain));
-    vorqCosts.push_back(MeasurePass(work.vorq));
+    plainCosts.push_back(bench::MeasurePass(work.plain));
+    vorqCosts.push_back(bench::MeasurePass(work.vorq));
   }
   bench::Cost const plain = bench::Median(plainCosts);
   bench::Cost const vorq = bench::Median(vorqCosts);

@@ -1,6 +1,7 @@
 // Clocks, a counting allocator and the forked measurement.
 #include "bench/measure.hpp"
 
+#include <malloc.h>
 #include <sys/wait.h>
 #include <time.h>
 #include <unistd.h>
@@ -104,6 +105,18 @@ Cost Measure(std::function<void()> const& work, std::function<bool()> const& che
   waitpid(child, nullptr, 0);
   if (!complete) Fail("the model that was built is not the right one");
   return cost;
+}
+
+Cost MeasurePass(std::function<void()> const& work) {
+  constexpr int kPasses = 5;
+  // What the process has free would hide what a pass takes.
+  malloc_trim(0);
+  Cost pass = Measure(work);
+  Cost const all = Measure([&work] {
+    for (int i = 0; i <= kPasses; ++i) work();
+  });
+  pass.seconds = (all.seconds - pass.seconds) / kPasses;
+  return pass;
 }
 
 Cost Median(std::vector<Cost> const& costs) {

@@ -20,6 +20,10 @@ struct Cost {
 // the program ends when `check` says no.
 Cost Measure(std::function<void()> const& work, std::function<bool()> const& check = {});
 
+// The cost of one pass of `work` over operands that the process has touched before: a forked child pays once for its
+// copies of the operands' pages. Peak and allocations are those of the first pass.
+Cost MeasurePass(std::function<void()> const& work);
+
 // The medians of the costs.
 Cost Median(std::vector<Cost> const& costs);
 

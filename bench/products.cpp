@@ -76,8 +76,8 @@ struct Case {
 bool Run(Case const& work, int repeats) {
   std::vector<bench::Cost> plainCosts, vorqCosts;
   for (int repeat = 0; repeat < repeats; ++repeat) {
-    plainCosts.push_back(bench::Measure(work.plain));
-    vorqCosts.push_back(bench::Measure(work.vorq));
+    plainCosts.push_back(bench::MeasurePass(work.plain));
+    vorqCosts.push_back(bench::MeasurePass(work.vorq));
   }
   bench::Cost const plain = bench::Median(plainCosts);
   bench::Cost const vorq = bench::Median(vorqCosts);
