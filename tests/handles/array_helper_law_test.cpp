@@ -2,7 +2,6 @@
 #include <array>
 
 #include "tests/handles/array_laws.hpp"
-#include "vorqmodel/exports.h"
 
 namespace vorqtest {
 namespace {
@@ -77,25 +76,25 @@ struct MatMultLaw {
   // An array of variables is a vector of its variables. With int numbers it is something else.
   template <class Result, class Numbers>
   static void Check(ArrayLaw& test, Result* (IMHelper::*call)(Numbers*, IVarArray*)) {
-    CheckArray<Numbers, INdArray<CellOf<Numbers>, 1>>(
+    CheckArray<Numbers>(
         test, {3, 3}, [&](Numbers& numbers, IVarArray& vars) { return (*test.helper_.*call)(&numbers, &vars); },
         [&](Numbers& numbers, IMVar<1>& vars) { return test.helper_->MatMult(&numbers, &vars); });
   }
   template <class Result, class Numbers>
   static void Check(ArrayLaw& test, Result* (IMHelper::*call)(IVarArray*, Numbers*)) {
     if constexpr (!std::is_same_v<CellOf<Numbers>, int>) {
-      CheckArray<Numbers, INdArray<CellOf<Numbers>, 1>>(
+      CheckArray<Numbers>(
           test, {3, 2}, [&](Numbers& numbers, IVarArray& vars) { return (*test.helper_.*call)(&vars, &numbers); },
           [&](Numbers& numbers, IMVar<1>& vars) { return test.helper_->MatMult(&vars, &numbers); });
     }
   }
 
-  template <class Numbers, class Vector, class Call, class CallOnBlock>
+  template <class Numbers, class Call, class CallOnBlock>
   static void CheckArray(ArrayLaw& test, SizeList sizes, Call const& call, CallOnBlock const& callOnBlock) {
     if (kRankOf<Numbers> == 1) sizes = {3};
     std::unique_ptr<IMVar<1>> const block = test.Make<IMVar<1>>({3}, Layout::kCompact, 4);
     std::unique_ptr<IVarArray> const array(Vorq::Wrap<IVarArray>());
-    for (std::uint64_t i = 0; i < 3; ++i) array->PushBack(std::unique_ptr<IVar>(block->Get(i)).get());
+    for (std::uint64_t i = 0; i < 3; ++i) array->PushBack(*std::unique_ptr<IVar>(block->Get(i)));
     ForEachLayout<Numbers>(test, sizes, [&](Numbers& numbers) {
       Outcome const expected = ArrayLaw::Take(callOnBlock(numbers, *block));
       ArrayLaw::ExpectFresh(ArrayLaw::Take(call(numbers, *array)), expected.sizes, expected.values);

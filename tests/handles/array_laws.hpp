@@ -13,6 +13,7 @@
 #include "handles/shapes.hpp"
 #include "tests/operators/operand_fixture.hpp"
 #include "vorqmodel/array_helper.h"
+#include "vorqmodel/exports.h"
 
 namespace vorqtest {
 
