@@ -12,6 +12,7 @@
 
 #include "ndarray/nd_array.hpp"
 #include "ndarray/runs.hpp"
+#include "ndarray/within_store.hpp"
 
 namespace Vorq {
 
@@ -84,18 +85,18 @@ void SumSlices(T const* source, NDim<N> const& shape, int axis, NDim<N - 1> cons
   }
 }
 
-// All positions must have an element, see WithinStore.
 template <class T, int N>
 NdArray<T, N - 1> SumAxis(NdArray<T, N> const& array, int axis) {
-  NDim<N> const& shape = array.GetShape();
-  NDim<N - 1> resultShape = shape.WithoutAxis(axis);
+  NDim<N - 1> resultShape = array.GetShape().WithoutAxis(axis);
   if (resultShape.Failed()) return NdArray<T, N - 1>::Failed(T(), std::move(resultShape.GetStatus()));
   auto const result = NdArray<T, N - 1>::Filled(resultShape, T());
   if (array.GetSize() == 0) return result;
+  NdArray<T, N> const readable = WithinStore(array, T());
+  NDim<N> const& shape = readable.GetShape();
   if (IsInnermost(shape, axis)) {
-    SumRuns(array.Store().Get(), shape, axis, result.Store().Get());
+    SumRuns(readable.Store().Get(), shape, axis, result.Store().Get());
   } else {
-    SumSlices(array.Store().Get(), shape, axis, resultShape, result.Store().Get());
+    SumSlices(readable.Store().Get(), shape, axis, resultShape, result.Store().Get());
   }
   return result;
 }

@@ -41,12 +41,15 @@ TEST(Documentation, ConicTourSolvesWhatCanBeSolved) {
   EXPECT_THAT(result.output, HasSubstr("6 matrices in the model, the inequality has dimension 2\n"));
 }
 
-TEST(Documentation, AffineConesReadBackAsRows) {
-  ProgramResult const result = RunExample("affine_cones");
+TEST(Documentation, ArrayTourPrintsArraysAndBlocks) {
+  ProgramResult const result = RunExample("array_tour");
   EXPECT_EQ(result.exitCode, 0) << result.errors;
-  EXPECT_THAT(result.output, HasSubstr("row 0: constant 2, 0 terms\nrow 1: constant -1, 1 terms\n"));
-  EXPECT_THAT(result.output, HasSubstr("4 cones, the last affine one is shifted(1)\n0 variables are left\n"));
-  EXPECT_THAT(result.output, HasSubstr("cone of 3 rows, 3 matrices in the model\n"));
+  EXPECT_THAT(result.output, HasSubstr("row:\n[[9, 2, 5]\n]\ncolumns:\n[[4, 5]\n [3, 2]\n [7, 9]\n]\n"));
+  EXPECT_THAT(result.output, HasSubstr("(INVALID) (INVALID) Operand 1 of shape (2, 3) is not compatible with Operand 2 "
+                                       "of shape (2)\n"));
+  EXPECT_THAT(result.output, HasSubstr("scaled:\n[[8, 6, 14]\n [2.5, 1, 3]\n]\n"));
+  EXPECT_THAT(result.output, HasSubstr("arrives:\n[send_0 + send_3, send_1 + send_4, send_2 + send_5]\n"));
+  EXPECT_THAT(result.output, HasSubstr("padded:\n[send_1, send_5, 1, 1]\n"));
 }
 
 }  // namespace

@@ -417,7 +417,7 @@ INSTANTIATE_TEST_SUITE_P(OfTheService, EachOperation, testing::Range(std::size_t
                            return std::string(Slots()[slot.param].operation) + "_" + std::to_string(slot.param + 2);
                          });
 
-TEST(ArrayService, HasAllOperations) {
+TEST(ArrayServiceSlots, AreAllThere) {
   EXPECT_EQ(Slots().size(), 412U);
 }
 

@@ -213,8 +213,8 @@ TEST_F(ArrayService, ArraysOfVariablesAreVectors) {
   auto const vars = Make<Vorq::IVarArray>();
   for (Var const& var : MakeItems<Var>(2)) vars->PushBack(*Make<Vorq::IVar>(var));
   auto const numbers = Array<double, 2>({2, 2}, {1, 2, 3, 4});
-  EXPECT_EQ(Text(helper_->MatMult(numbers.get(), vars.get())), "[ + 1 * x0 + 2 * x1,  + 3 * x0 + 4 * x1]\n");
-  EXPECT_EQ(Text(helper_->MatMult(vars.get(), numbers.get())), "[ + 1 * x0 + 3 * x1,  + 2 * x0 + 4 * x1]\n");
+  EXPECT_EQ(Text(helper_->MatMult(numbers.get(), vars.get())), "[0 + 1 * x0 + 2 * x1, 0 + 3 * x0 + 4 * x1]\n");
+  EXPECT_EQ(Text(helper_->MatMult(vars.get(), numbers.get())), "[0 + 1 * x0 + 3 * x1, 0 + 2 * x0 + 4 * x1]\n");
   EXPECT_EQ(Message(helper_->MatMult(Array<double, 1>({3}, {1, 2, 3}).get(), vars.get())),
             "(INVALID) Operand 1 has a mismatch at axis 0, size 3 != 2");
 }
@@ -224,7 +224,7 @@ TEST_F(ArrayService, ArrayOfVariablesWithIntsReadsThemAtAnotherWidth) {
   for (Var const& var : MakeItems<Var>(2)) vars->PushBack(*Make<Vorq::IVar>(var));
   // Two ints make the first long long; the second one lies outside of the array.
   auto const ints = Array<int, 1>({2}, {7, 0});
-  EXPECT_EQ(Text(helper_->MatMult(vars.get(), ints.get())), " + 7 * x0 + 0 * x1");
+  EXPECT_EQ(Text(helper_->MatMult(vars.get(), ints.get())), "0 + 7 * x0 + 0 * x1");
 }
 
 TEST_F(ArrayService, PositionsOutsideOfTheStoreReadAsDefaults) {

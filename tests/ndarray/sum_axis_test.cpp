@@ -78,6 +78,12 @@ TEST(ArraySumAxis, OfNothingIsZero) {
   EXPECT_EQ(SumAxis(Counting<double, 1>({0}), 0).Get(0), 0.0);
 }
 
+TEST(ArraySumAxis, PositionsWithoutAnElementCountAsZero) {
+  NdArray<int, 1> const shifted(NDim<1>::FromAxes({Axis{4, 1, -1}}), OfInts<1>({2}, {7, 8}).Store());
+  EXPECT_EQ(SumAxis(shifted, 0).Get(0), 15);
+  EXPECT_EQ(Elements(SumAxis(NdArray<int, 2>(NDim<2>({3, 2}), {}), 0)), (Ints{0, 0}));
+}
+
 TEST(ArraySumAxis, AddsInCoordinateOrder) {
   auto const array = NdArray<double, 2>::Generated(
       NDim<2>({4, 2}), [](std::uint64_t i) { return i % 2 == 0 ? 1e16 : (i == 3 ? -1e16 : 1.0); });
