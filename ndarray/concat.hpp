@@ -36,7 +36,7 @@ NdArray<Out, N> Concat(NdArray<Left, N> const& left, NdArray<Right, N> const& ri
   NDim<N> shape = left.GetShape().Concat(right.GetShape(), axis);
   if (shape.Failed()) return NdArray<Out, N>::Failed(Out(), std::move(shape.GetStatus()));
   auto const place = static_cast<std::size_t>(axis < 0 ? axis + N : axis);
-  auto const result = NdArray<Out, N>::Fresh(shape);
+  auto result = NdArray<Out, N>::Fresh(shape);
   ConvertInto(left, result, place, 0, convert);
   ConvertInto(right, result, place, left.GetShape().GetAxes()[place].size, convert);
   return result;

@@ -59,7 +59,7 @@ class NdArray {
   static NdArray OneElement(T const& value) { return Filled(NDim<N>::Uniform(1), value); }
 
   // The same with the failure of an operation.
-  static NdArray Failed(T const& value, Status failure) {
+  static NdArray Failed(T const& value, Status&& failure) {
     NdArray result = OneElement(value);
     result.status_ = std::move(failure);
     return result;

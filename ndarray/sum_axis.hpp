@@ -89,7 +89,7 @@ template <class T, int N>
 NdArray<T, N - 1> SumAxis(NdArray<T, N> const& array, int axis) {
   NDim<N - 1> resultShape = array.GetShape().WithoutAxis(axis);
   if (resultShape.Failed()) return NdArray<T, N - 1>::Failed(T(), std::move(resultShape.GetStatus()));
-  auto const result = NdArray<T, N - 1>::Filled(resultShape, T());
+  auto result = NdArray<T, N - 1>::Filled(resultShape, T());
   if (array.GetSize() == 0) return result;
   NdArray<T, N> const readable = WithinStore(array, T());
   NDim<N> const& shape = readable.GetShape();
