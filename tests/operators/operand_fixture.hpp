@@ -94,9 +94,8 @@ class OperandTest : public MatrixTest {
   Vorq::Var Item(int number) const { return MakeCell<Vorq::Var>(0, number); }
 
   template <class Item>
-  requires Vorq::kIsItem<Item> Item MakeModelCell(Type<Item>, int number) const {
-    return Make<Item>("x" + std::to_string(number), number);
-  }
+  requires Vorq::kIsItem<Item> Item MakeModelCell(Type<Item>, int number)
+  const { return Make<Item>("x" + std::to_string(number), number); }
 
   // Explicit, lazy, or both.
   Vorq::MExpression MakeModelCell(Type<Vorq::MExpression>, int number) const {
