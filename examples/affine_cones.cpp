@@ -35,11 +35,10 @@ int StateDistance(Vorq::IEnvr& envr) {
 int StateRows(Vorq::IEnvr& envr) {
   std::unique_ptr<Vorq::IModel> model(CreateModel(&envr, "rows"));
   std::unique_ptr<Vorq::IMFactory> factory(CreateMFactory());
-  std::unique_ptr<Vorq::IVarArray> vars(model->AddVars(6, 'C', "v"));
 
   // Two cones of three variables: the rows of a block.
   std::unique_ptr<Vorq::INDim<2>> shape(factory->CreateNDim(2, 3));
-  std::unique_ptr<Vorq::IMVar<2>> block(factory->CreateMVar(shape.get(), vars.get()));
+  std::unique_ptr<Vorq::IMVar<2>> block(model->AddMVar(shape.get(), 'C', "v"));
   std::unique_ptr<Vorq::IConeArray> cones(model->AddCones(block.get(), 2));
 
   // Two affine cones, named shifted(0) and shifted(1): the same rows with a constant in each cell.

@@ -14,7 +14,7 @@ namespace Vorq {
 
 // A list of handles as a block with a copy of each object. No handle may be null.
 template <class Cell, class Interface>
-MatrixObject<Cell, 1> BlockOf(std::vector<Interface*> const& handles) {
+MatrixObject<Cell, 1> CopiesOf(std::vector<Interface*> const& handles) {
   return MatrixObject<Cell, 1>(NdArray<Cell, 1>::Generated(
       NDim<1>({handles.size()}), [&handles](std::uint64_t i) { return Cell(Unwrap(handles[i])); }));
 }
@@ -43,13 +43,13 @@ class VorqAffineConeBuilder final
     if (exprs != nullptr) Impl().Set(Vorq::Unwrap(exprs), type);
   }
   void Set(std::vector<Vorq::IPsdExpr*> exprs, int type) override {
-    if (!Vorq::HasNull(exprs)) Impl().Take(Vorq::BlockOf<Vorq::PsdExpr>(exprs), type);
+    if (!Vorq::HasNull(exprs)) Impl().Take(Vorq::CopiesOf<Vorq::PsdExpr>(exprs), type);
   }
   void Set(Vorq::IMLinExpr<1>* exprs, int type) override {
     if (exprs != nullptr) Impl().Set(Vorq::Unwrap(exprs), type);
   }
   void Set(std::vector<Vorq::IVar*> vars, int type) override {
-    if (!Vorq::HasNull(vars)) Impl().Set(Vorq::CellsOf(Vorq::BlockOf<Vorq::Var>(vars)), type);
+    if (!Vorq::HasNull(vars)) Impl().Set(Vorq::CellsOf(Vorq::CopiesOf<Vorq::Var>(vars)), type);
   }
 
  private:

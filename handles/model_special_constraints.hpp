@@ -233,7 +233,7 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
     for (IExpression const* expr : exprs) {
       if (!Given("AddAffineCone", expr)) return NoAffineCone();
     }
-    auto rows = Vorq::BlockOf<Cell>(exprs);
+    auto rows = Vorq::CopiesOf<Cell>(exprs);
     return Vorq::Wrap<Vorq::IAffineCone>(Impl().AddAffineCone(rows, type, name));
   }
   template <class IBlock, class... Names>
