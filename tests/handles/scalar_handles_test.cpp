@@ -79,15 +79,6 @@ TEST_F(ScalarHandlesTest, PsdVariablesTellDimensionAndLength) {
   EXPECT_EQ(psd->GetSize(), 9);
 }
 
-TEST_F(ScalarHandlesTest, MatrixFormsOfPsdVariablesSayThatTheyAreMissing) {
-  auto psd = Own(Vorq::Wrap<Vorq::IPsdVar>(problem_, "X", 2, 3));
-  EXPECT_EQ(psd->Diagonal(0), nullptr);
-  EXPECT_EQ(psd->GetLastError(), 5);
-  EXPECT_STREQ(psd->GetErrorMessage(), "(INTERNAL) IPsdVar::Diagonal is not implemented yet");
-  EXPECT_EQ(psd->Sum(), nullptr);
-  EXPECT_STREQ(psd->GetErrorMessage(), "(INTERNAL) IPsdVar::Sum is not implemented yet");
-}
-
 TEST_F(ScalarHandlesTest, LmiConstraintsTakeAMatrix) {
   auto row = Own(Vorq::Wrap<Vorq::ILmiConstraint>(problem_, "L", 1, 3));
   auto matrix = Matrix(4, 3);

@@ -23,6 +23,7 @@ class PsdVarMatrixTest : public vorqtest::MatrixFormsTest {
   template <int N>
   std::vector<std::string> Entries(std::unique_ptr<Vorq::IMPsdExpr<N>> const& block) {
     std::vector<std::string> texts;
+    texts.reserve(block->GetSize());
     for (std::uint64_t i = 0; i < block->GetSize(); ++i) texts.push_back(Entries(Own(block->Get(i)).get()));
     return texts;
   }
