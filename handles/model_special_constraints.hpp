@@ -221,7 +221,9 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
   }
 
  private:
-  Vorq::IAffineCone* NoAffineCone() { return Vorq::Wrap<Vorq::IAffineCone>(Impl().Invalid<Vorq::AffineCone>()); }
+  Vorq::IAffineCone* NoAffineCone() {
+    return Vorq::Wrap<Vorq::IAffineCone>(Impl().Invalid<Vorq::AffineCone>());
+  }
 
   template <class IBlock>
   Vorq::IAffineCone* AddAffineConeOf(IBlock* exprs, int type, char const* name) {

@@ -198,12 +198,4 @@ TEST_F(CoreTest, CloneLeavesTheMipStartBehind) {
   EXPECT_EQ(double_.CountCalls("VORQ_AddMipStart"), 0u);
 }
 
-// ---- What is to come
-
-TEST_F(CoreTest, OperationsThatDoNotExistYetSaySo) {
-  EXPECT_EQ(model_->AddMVar(static_cast<Vorq::INDim<1>*>(nullptr), 'C', "x"), nullptr);
-  EXPECT_FAILURE(model_, 5, "(INTERNAL) AddMVar is not implemented yet");
-  EXPECT_CALLS(double_, {});
-}
-
 }  // namespace
