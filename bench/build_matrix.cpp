@@ -19,7 +19,9 @@
 #include "bench/generators.hpp"
 #include "bench/measure.hpp"
 #include "bench/raw_model.hpp"
+#include "matrix/dense_products.hpp"
 #include "matrix/matrix_constr_builder.hpp"
+#include "matrix/sparse_products.hpp"
 #include "model/model.hpp"
 
 namespace {
@@ -78,10 +80,7 @@ class DenseProduct {
   Vorq::MConstr<1> Build(Vorq::Model& model) const {
     Vorq::NDim<1> const shape({std::uint64_t(n_)});
     Vorq::MVar<1> const x = model.AddMVar(shape, 0.0, 1.0, 1.0, 'C', nullptr);
-    Vorq::MLinExpr<1> const product(Vorq::NdArray<Vorq::MExpression, 1>::Generated(shape, [&](std::uint64_t i) {
-      Vorq::StridedVector<double> const row(matrix_.Store(), std::int64_t(i) * n_, 1, std::uint64_t(n_));
-      return Vorq::MExpression(row, Vorq::StridedVector<Vorq::Var>(x.Cells()));
-    }));
+    Vorq::MLinExpr<1> const product = MatMult(matrix_, x);
     Vorq::MConstrBuilder<1> builder;
     builder.Set(product, 'L', Vorq::NdArray<double, 1>(shape, Vorq::SharedPtr<double>(bounds_.data(), 0)));
     return model.AddMConstr(builder, nullptr);
@@ -95,7 +94,7 @@ class DenseProduct {
 
 class SparseProduct {
  public:
-  explicit SparseProduct(int n) : n_(n), block_(n), begins_(std::size_t(n) + 1) {
+  explicit SparseProduct(int n) : n_(n), block_(n), begins_(std::size_t(n) + 1), bounds_(block_.Bounds()) {
     for (int i = 0; i <= n; ++i) begins_[std::size_t(i)] = 10 * i;
   }
 
@@ -106,15 +105,10 @@ class SparseProduct {
   Vorq::MConstr<1> Build(Vorq::Model& model) const {
     Vorq::NDim<1> const shape({std::uint64_t(n_)});
     Vorq::MVar<1> const x = model.AddMVar(shape, 0.0, 1.0, 1.0, 'C', nullptr);
-    Vorq::Var const* const vars = x.Cells().Store().Get();
-    Vorq::MLinExpr<1> const product(Vorq::NdArray<Vorq::MExpression, 1>::Generated(shape, [&](std::uint64_t i) {
-      Vorq::MExpression cell(-block_.Bounds()[i]);
-      cell.expr.Reserve(10);
-      for (std::size_t k = 10 * i; k < 10 * (i + 1); ++k) {
-        cell.AddTerm(vars[block_.Cols()[k]], block_.Coefs()[k]);
-      }
-      return cell;
-    }));
+    Vorq::SparseMatrix const matrix{Vorq::SparseOrder::kRows, n_, begins_.data(), n_ + 1, block_.Cols().data(),
+                                    block_.Coefs().data()};
+    Vorq::MLinExpr<1> product = MatMult(matrix, x);
+    product.SubConstants(Vorq::NdArray<double, 1>(shape, Vorq::SharedPtr<double>(bounds_.data(), 0)));
     return model.AddMConstr(product, 'L', 0.0, nullptr);
   }
 
@@ -122,6 +116,7 @@ class SparseProduct {
   int n_;
   bench::RandomBlock block_;
   std::vector<int> begins_;
+  mutable std::vector<double> bounds_;
 };
 
 template <class Product>

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "frame/growth.hpp"
 #include "model/cell_terms.hpp"
 
 namespace Vorq {
@@ -35,10 +36,25 @@ bool HasZero(double const* values, std::size_t count) {
 CellRows::CellRows(std::vector<int>& marks, std::size_t rows, std::size_t terms) : marks_(marks), terms_(terms) {
   begins_.reserve(rows);
   counts_.reserve(rows);
-  indices_.reserve(terms);
+  ReserveMore(indices_, terms);
 }
 
 void CellRows::Add(MExpression const& cell) {
+  for (Var const& var : cell.expr.vars) var.PrefetchIdx();
+  MExpression const*& place = waiting_[turn_++ % kAhead];
+  if (place != nullptr) Write(*place);
+  place = &cell;
+}
+
+void CellRows::Finish() {
+  for (std::size_t i = 0; i < kAhead; ++i) {
+    MExpression const*& place = waiting_[turn_++ % kAhead];
+    if (place != nullptr) Write(*place);
+    place = nullptr;
+  }
+}
+
+void CellRows::Write(MExpression const& cell) {
   std::size_t const begin = indices_.size();
   begins_.push_back(static_cast<int>(begin));
   if (!IsLazyProduct(cell) || !AddSharedRow(cell)) AddOwnRow(cell);
@@ -95,7 +111,7 @@ bool CellRows::FindColumns(StridedVector<Var> const& vars) {
 }
 
 void CellRows::CopySource() {
-  if (coefficients_.capacity() < terms_) coefficients_.reserve(terms_);
+  if (coefficients_.capacity() < terms_) ReserveMore(coefficients_, terms_ - coefficients_.size());
   if (source_ == nullptr) return;
   std::size_t const copied = coefficients_.size();
   coefficients_.insert(coefficients_.end(), source_ + copied, source_ + indices_.size());

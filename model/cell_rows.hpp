@@ -5,6 +5,7 @@
 // copied at all: the solver library gets them from there. The cells must stay as they are until it has them.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <vector>
 
@@ -17,7 +18,9 @@ class CellRows {
   // `marks` as CollectTerms takes them. Makes room for this many rows, with this many terms before any are merged.
   CellRows(std::vector<int>& marks, std::size_t rows, std::size_t terms);
 
+  // Rows are written a few cells later; Finish writes the last ones.
   void Add(MExpression const& cell);
+  void Finish();
 
   std::size_t EntryCount() const { return indices_.size(); }
   int const* Begins() const { return begins_.data(); }
@@ -26,6 +29,10 @@ class CellRows {
   double const* Coefficients() const { return source_ != nullptr ? source_ : coefficients_.data(); }
 
  private:
+  // The indices of the variables of a cell are asked for this many cells before they are read.
+  static constexpr std::size_t kAhead = 4;
+
+  void Write(MExpression const& cell);
   bool AddSharedRow(MExpression const& cell);
   void AddOwnRow(MExpression const& cell);
   // The distinct columns of the vector that the row before had too; none where there are no such columns.
@@ -40,6 +47,9 @@ class CellRows {
   std::vector<double> coefficients_;
   // Where the coefficients of all rows so far lie behind each other; null if they do not, and stand in `coefficients_`.
   double const* source_ = nullptr;
+
+  std::array<MExpression const*, kAhead> waiting_{};
+  std::size_t turn_ = 0;
 
   // The vector of variables of the row before, and its columns once a second row has it. They are empty for a vector
   // with a variable that is not live or comes twice.

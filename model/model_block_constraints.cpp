@@ -51,6 +51,7 @@ MConstr<N> Model::AddRowBlock(MLinExpr<N> const& expr, char sense, double upper,
     rows.Add(cell);
     lowers.push_back(sense == 'N' ? -kInfinity : 0.0 - cell.GetConstant());
   });
+  rows.Finish();
   if (rows.EntryCount() > kMaxCount) {
     SetStatus(status, kInvalid, "Fail to add constraints of %zu linear items", rows.EntryCount());
     return {};

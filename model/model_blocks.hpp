@@ -1,10 +1,11 @@
 // Templates of Model that add blocks of items, included by the topics that do.
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 #include <utility>
 
+#include "frame/growth.hpp"
+#include "frame/shared_ptr.hpp"
 #include "matrix/matrix_constr_builder.hpp"
 #include "model/block_names.hpp"
 #include "model/model.hpp"
@@ -22,13 +23,10 @@ bool IsCountable(NDim<N> const& shape) {
 
 template <class Item, int N>
 MatrixObject<Item, N> Model::AppendBlock(BlockNames const& names, NDim<N> const& shape) {
-  std::vector<Item>& items = core_->Table<Item>().items;
-  std::size_t const needed = items.size() + names.Pointers().size();
-  if (needed > items.capacity()) items.reserve(std::max(needed, 2 * items.capacity()));
-  auto cells = NdArray<Item, N>::Fresh(shape);
-  Item* cell = cells.Store().Get();
-  for (char const* name : names.Pointers()) *cell++ = Append<Item>(name);
-  return MatrixObject<Item, N>(std::move(cells));
+  ReserveMore(core_->Table<Item>().items, names.Pointers().size());
+  SharedArrayBuilder<Item> cells(names.Pointers().size());
+  for (char const* name : names.Pointers()) cells.Emplace(Append<Item>(name));
+  return MatrixObject<Item, N>(NdArray<Item, N>(shape.Clone(), cells.Finish()));
 }
 
 }  // namespace Vorq
