@@ -41,9 +41,17 @@ CellRows::CellRows(std::vector<int>& marks, std::size_t rows, std::size_t terms)
 
 void CellRows::Add(MExpression const& cell) {
   for (Var const& var : cell.expr.vars) var.PrefetchIdx();
+  if (MExpression const* later = waiting_[(turn_ + kAhead / 2) % kAhead]) PrefetchMarks(*later);
   MExpression const*& place = waiting_[turn_++ % kAhead];
   if (place != nullptr) Write(*place);
   place = &cell;
+}
+
+void CellRows::PrefetchMarks(MExpression const& cell) const {
+  for (Var const& var : cell.expr.vars) {
+    auto const column = static_cast<std::size_t>(std::max(var.Idx(), 0));
+    if (column < marks_.size()) __builtin_prefetch(&marks_[column], 1);
+  }
 }
 
 void CellRows::Finish() {

@@ -29,9 +29,11 @@ class CellRows {
   double const* Coefficients() const { return source_ != nullptr ? source_ : coefficients_.data(); }
 
  private:
-  // The indices of the variables of a cell are asked for this many cells before they are read.
+  // The indices of the variables of a cell are asked for this many cells before it is written, and the marks of its
+  // columns on half of that way.
   static constexpr std::size_t kAhead = 4;
 
+  void PrefetchMarks(MExpression const& cell) const;
   void Write(MExpression const& cell);
   bool AddSharedRow(MExpression const& cell);
   void AddOwnRow(MExpression const& cell);
