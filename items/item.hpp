@@ -25,8 +25,6 @@ class Item {
   ItemRec& Record() const { return *record_; }
   int Idx() const { return record_->idx; }
   bool IsLive() const { return record_->idx >= 0; }
-  // Brings the index near before it is read: in a large model items are met in no order that the processor foresees.
-  void PrefetchIdx() const { __builtin_prefetch(record_.Block()); }
 
   // Marks a live item as removed, for the model's next flush to carry out. Any other item stays as it is.
   void MarkRemoved();

@@ -40,7 +40,7 @@ CellRows::CellRows(std::vector<int>& marks, std::size_t rows, std::size_t terms)
 }
 
 void CellRows::Add(MExpression const& cell) {
-  for (Var const& var : cell.expr.vars) var.PrefetchIdx();
+  for (Var const& var : cell.expr.vars) var.Prefetch();
   if (MExpression const* later = waiting_[(turn_ + kAhead / 2) % kAhead]) PrefetchMarks(*later);
   MExpression const*& place = waiting_[turn_++ % kAhead];
   if (place != nullptr) Write(*place);
