@@ -197,7 +197,8 @@ class SubtourElimination final : public Vorq::ICallback {
   }
 
   void Callback() override {
-    if (proxy_->GetDblInfo("SolvingTime") > seconds_) proxy_->Interrupt();
+    // When the time is over, the first tour will do.
+    if (proxy_->GetDblInfo("SolvingTime") > seconds_ && proxy_->GetIntInfo("SolutionCnt") > 0) proxy_->Interrupt();
     CheckProxy();
     if (proxy_->GetContext() == kCandidate) {
       CheckCandidate();
@@ -335,8 +336,10 @@ int Solve(std::vector<City> const& cities, double seconds, bool isLazy) {
   }
   std::printf("tour");
   for (int const city : TourOf(pairs, values)) std::printf(" %d", city);
-  std::printf("\nlength %.0f, at least %.0f\n", model->GetDblAttr("BestObj"),
-              std::ceil(model->GetDblAttr("BestBnd") - 1e-6));
+  constexpr int kInterrupted = 10;
+  std::printf("\nlength %.0f, at least %.0f%s\n", model->GetDblAttr("BestObj"),
+              std::ceil(model->GetDblAttr("BestBnd") - 1e-6),
+              model->GetIntAttr("MipStatus") == kInterrupted ? ", interrupted" : "");
   std::printf("%d lazy constraints, %d user cuts, %d nodes\n", elimination.LazyConstraints(), elimination.UserCuts(),
               model->GetIntAttr("NodeCnt"));
   return 0;
