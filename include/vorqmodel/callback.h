@@ -12,6 +12,7 @@ class ICallback {
   virtual ~ICallback() = default;
 
   // Called by the solver at the places that the context mask of SetCallback chose, on a thread of the solver's choice.
+  // What it throws comes out of the solve.
   virtual void Callback() = 0;
 
   // The proxy of this object, the same one each time. Not owned by who asks.
@@ -25,7 +26,8 @@ class ICallbackProxy {
  public:
   virtual ~ICallbackProxy() = default;
 
-  // Ends the solve soon.
+  // Ends the solve soon. The one operation that other threads may call during a solve; what they are answered is not
+  // recorded while the callback runs.
   virtual void Interrupt() = 0;
 
   // Cuts off points that are not integral. The batch forms refuse senses 'N' and 'R' with code 3 and add none.
@@ -54,7 +56,8 @@ class ICallbackProxy {
 
   // The best solution, the relaxation's solution and the candidate: one variable's value, 0.0 for one that is not in
   // the model (code 3); those of an array without gaps, with the number written as result, -1 on failure; all columns,
-  // at most `len` of them, with their number as result.
+  // at most `len` of them, with their number as result. Each vector is fetched once in a callback; where that failed,
+  // it is 1e40 throughout from then on.
   virtual double GetIncumbent(IVar* var) = 0;
   virtual int GetIncumbent(IVarArray* vars, double* out, int len) = 0;
   virtual int GetIncumbent(double* out, int len) = 0;

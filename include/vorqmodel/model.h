@@ -671,7 +671,9 @@ class IModel {
 
   // ---- Callbacks and logging.
 
-  // Null takes the callback away. The model does not own it.
+  // The object is called during a mixed-integer solve at the places of the mask: 1 the relaxation of a node was solved,
+  // 2 a solution was found, 4 a solution was accepted, -1 everywhere. Null takes the callback away. The model does not
+  // own it. An exception that leaves the callback comes out of Solve. An object without a proxy is code 3.
   virtual void SetCallback(ICallback* callback, int contextMask) = 0;
 
   // Returns the solver library's code; the model's own is left alone.

@@ -116,6 +116,65 @@ TEST_F(CallbackRulesTest, EachFormOfALazyConstraintCounts) {
   }
 }
 
+// All items that fit in order of their gain: a solution that breaks rules.
+std::vector<double> GreedyChoice(BinaryModel const& knapsack) {
+  std::vector<int> order(knapsack.vars.size());
+  std::iota(order.begin(), order.end(), 0);
+  std::ranges::sort(order, [&](int a, int b) { return knapsack.gains[a] > knapsack.gains[b]; });
+  std::vector<double> chosen(order.size(), 0.0);
+  std::vector<double> left = knapsack.limits;
+  for (int const item : order) {
+    bool fits = true;
+    for (std::size_t row = 0; row < left.size(); ++row) fits = fits && knapsack.weights[row][item] <= left[row];
+    if (!fits) continue;
+    chosen[item] = 1.0;
+    for (std::size_t row = 0; row < left.size(); ++row) left[row] -= knapsack.weights[row][item];
+  }
+  return chosen;
+}
+
+// The choice that is offered is forbidden, and each one that holds it.
+TEST_F(CallbackRulesTest, MipStartsAndOffersAreCandidatesToo) {
+  for (bool const offers : {false, true}) {
+    int shown = 0;
+    for (unsigned seed = 1; seed <= 10; ++seed) {
+      SCOPED_TRACE(testing::Message() << (offers ? "offer, seed " : "start, seed ") << seed);
+      BinaryModel const knapsack = Knapsack(kItems, 2, seed);
+      std::vector<double> const start = GreedyChoice(knapsack);
+      std::vector<int> items;
+      unsigned choice = 0;
+      for (int item = 0; item < kItems; ++item) {
+        if (start[item] == 0.0) continue;
+        items.push_back(item);
+        choice |= 1u << item;
+      }
+      double const limit = static_cast<double>(items.size()) - 1.0;
+      callback_.body = [&](ICallbackProxy& proxy) {
+        std::vector<double> values(kItems);
+        if (proxy.GetContext() == vorqtest::kRelaxation) {
+          if (offers) proxy.SetSolution(knapsack.array.get(), start.data(), kItems);
+          return;
+        }
+        ASSERT_EQ(proxy.GetSolution(values.data(), kItems), kItems);
+        double sum = 0.0;
+        for (int const item : items) sum += values[item];
+        if (sum <= limit + 0.5) return;
+        ++shown;
+        proxy.AddLazyConstr(SumOf(knapsack, items).get(), 'L', limit);
+        EXPECT_SUCCESS(&proxy);
+      };
+      if (!offers) {
+        knapsack.model->SetMipStart(kItems, start.data());
+        knapsack.model->LoadMipStart();
+      }
+      knapsack.model->SetCallback(&callback_, vorqtest::kRelaxation + vorqtest::kCandidate);
+      SolveToOptimum(*knapsack.model,
+                     knapsack.BestGain([choice](unsigned chosen) { return (chosen & choice) != choice; }));
+    }
+    EXPECT_GT(shown, 0);
+  }
+}
+
 TEST_F(CallbackRulesTest, LazyConstraintsThatLeaveNothingMakeTheModelInfeasible) {
   BinaryModel const knapsack = Knapsack(kItems, 2, 1);
   callback_.body = [&](ICallbackProxy& proxy) {

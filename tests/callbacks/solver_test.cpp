@@ -288,6 +288,8 @@ TEST_F(CallbackSolverTest, AfterAnExceptionTheModelIsChangedAndSolved) {
   };
   knapsack.model->SetCallback(&callback_, vorqtest::kEverywhere);
   EXPECT_THROW(knapsack.model->Solve(), std::runtime_error);
+  EXPECT_EQ(knapsack.model->GetIntAttr("MipStatus"), 0);
+  EXPECT_EQ(knapsack.model->GetIntAttr("HasMipSol"), 0);
   auto const late = Own(knapsack.model->AddVar(0.0, 5.0, 1.0, 'I', "late"));
   EXPECT_SUCCESS(knapsack.model);
   knapsack.model->SetCallback(nullptr, 0);

@@ -52,8 +52,8 @@ TEST(Documentation, PassagesOfCodeStandInExamples) {
 
 TEST(Documentation, LinksBetweenPagesLeadSomewhere) {
   fs::path const root = VORQ_SOURCE_DIR;
-  for (fs::path const& page : {root / "README.md", root / "docs/getting-started.md", root / "docs/solving.md",
-                               root / "docs/quadratic-and-conic.md", root / "docs/arrays.md", root / "docs/tool.md"}) {
+  for (fs::path const& page : {root / "README.md", root / "docs/callbacks.md", root / "docs/getting-started.md",
+                               root / "docs/solving.md", root / "docs/quadratic-and-conic.md", root / "docs/tool.md"}) {
     std::string const text = FileText(page);
     std::size_t at = 0;
     while ((at = text.find("](", at)) != std::string::npos) {
