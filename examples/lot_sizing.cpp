@@ -90,10 +90,10 @@ LotSizing::LotSizing(Vorq::IEnvr& envr, std::vector<Period> const& periods)
     Owned<Vorq::IExpr> balance(CreateLinExpr(Make(t), 1.0));
     if (t > 0) balance->AddTerm(Stock(t - 1), 1.0);
     balance->AddTerm(Stock(t), -1.0);
-    Owned<Vorq::IConstraint>(model_->AddConstr(balance.get(), 'E', periods_[t].demand, "balance"));
+    Owned<Vorq::IConstraint> balanceRow(model_->AddConstr(balance.get(), 'E', periods_[t].demand, "balance"));
     Owned<Vorq::IExpr> link(CreateLinExpr(Make(t), 1.0));
     link->AddTerm(Setup(t), -Demand(t, last));
-    Owned<Vorq::IConstraint>(model_->AddConstr(link.get(), 'L', 0.0, "link"));
+    Owned<Vorq::IConstraint> linkRow(model_->AddConstr(link.get(), 'L', 0.0, "link"));
   }
 }
 

@@ -23,31 +23,6 @@ constexpr char const* kInvalidArguments = "Invalid arguments";
 constexpr char const* kInvalidSolutionVar = "Var is invalid in model";
 constexpr double kNoObjective = 1e30;
 
-// Merges the terms of expressions, whose columns are below `numCols`.
-class TermMerger {
- public:
-  explicit TermMerger(int numCols)
-      : sums_(static_cast<std::size_t>(numCols)), marks_(static_cast<std::size_t>(numCols)) {}
-
-  // In place; appends the columns of the terms that stay.
-  void Merge(Expr& expr, std::vector<int>& cols) {
-    // Columns of another model are made room for, and left to the solver library to judge.
-    for (Var const& var : expr.vars) MakeRoom(var.Idx());
-    expr.ReduceDense(sums_, marks_);
-    for (Var const& var : expr.vars) cols.push_back(var.Idx());
-  }
-
- private:
-  void MakeRoom(int col) {
-    if (col < static_cast<int>(sums_.size())) return;
-    sums_.resize(static_cast<std::size_t>(col) + 1);
-    marks_.resize(static_cast<std::size_t>(col) + 1);
-  }
-
-  std::vector<double> sums_;
-  std::vector<unsigned char> marks_;
-};
-
 // Rows behind each other, as the batch functions take them.
 struct CutBatch {
   explicit CutBatch(ConstrBuilderArray const& builders) {
@@ -123,7 +98,7 @@ void CallbackProxy::Interrupt() {
 void CallbackProxy::AddCut(CallbackCutKind const& kind, Expr& expr, char sense, double rhs) {
   std::vector<int> cols;
   cols.reserve(expr.Size());
-  TermMerger(numCols_).Merge(expr, cols);
+  merger_.Merge(expr, cols);
   Record(kind.addOne(data_, static_cast<int>(cols.size()), cols.data(), expr.coeffs.data(), sense, rhs - expr.constant),
          kind.addOneFailed);
 }
@@ -140,10 +115,9 @@ void CallbackProxy::AddCut(CallbackCutKind const& kind, ConstrBuilder& builder) 
 
 void CallbackProxy::AddCuts(CallbackCutKind const& kind, ConstrBuilderArray& builders) {
   CutBatch batch(builders);
-  TermMerger merger(numCols_);
   int code = kOk;
   for (auto builder = builders.begin(); builder != builders.end() && code == kOk; ++builder) {
-    if (!batch.Add(*builder, merger)) code = kInvalid;
+    if (!batch.Add(*builder, merger_)) code = kInvalid;
   }
   if (code == kOk) {
     // An empty array makes the call as well, which is meant.

@@ -21,6 +21,7 @@
 #include "items/item_arrays.hpp"
 #include "items/prob_handle.hpp"
 #include "model/callback_cut_kinds.hpp"
+#include "model/term_merger.hpp"
 
 namespace Vorq {
 
@@ -120,6 +121,7 @@ class CallbackProxy {
   // Each is empty, or has one entry for each column.
   std::array<std::vector<double>, 3> fetched_;
   std::vector<double> solution_;
+  TermMerger merger_;
   bool isRunning_ = false;
   // Held while a callback runs, which may itself interrupt.
   std::recursive_mutex running_;
