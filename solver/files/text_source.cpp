@@ -77,6 +77,18 @@ TextSource LoadText(std::string const& path) {
   return source;
 }
 
+std::string Shown(std::string_view text) {
+  constexpr std::size_t kMostShown = 100;
+  std::size_t length = std::min(text.size(), kMostShown);
+  // A character of several bytes is not cut.
+  while (length > 0 && length < text.size() && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80) --length;
+  std::string shown(text.substr(0, length));
+  std::ranges::replace_if(
+      shown, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }, '?');
+  if (length < text.size()) shown += "...";
+  return shown;
+}
+
 std::string_view CheckedText(TextSource const& source) {
   std::string_view text = source.text;
   if (auto const zero = text.find('\0'); zero != std::string_view::npos) {

@@ -2,6 +2,7 @@
 // lines. Plain and gzip files are read alike.
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -22,16 +23,30 @@ TextSource LoadText(std::string const& path);
 // The text without a byte order mark. Fails with VORQ_FILE for a text with zero bytes.
 std::string_view CheckedText(TextSource const& source);
 
+// A piece of a file as a message shows it: its beginning, if it is long, and '?' for control characters.
+std::string Shown(std::string_view text);
+
+template <typename Piece>
+auto ShownPiece(Piece const& piece) {
+  if constexpr (std::same_as<Piece, std::string_view> || std::same_as<Piece, std::string>) {
+    return Shown(piece);
+  } else if constexpr (std::convertible_to<Piece const&, std::string_view>) {
+    return std::string_view(piece);
+  } else {
+    return piece;
+  }
+}
+
 // Throws Failure(VORQ_FILE) with the text "name:line: pieces".
 template <typename... Pieces>
 [[noreturn]] void RefuseText(TextSource const& source, std::size_t line, Pieces const&... pieces) {
-  throw Failure(VORQ_FILE, Text(source.name, ":", line, ": ", pieces...));
+  throw Failure(VORQ_FILE, Text(source.name, ":", line, ": ", ShownPiece(pieces)...));
 }
 
 // As RefuseText, for a cause that lies in the problem and not in the file.
 template <typename... Pieces>
 [[noreturn]] void RefuseContent(TextSource const& source, std::size_t line, Pieces const&... pieces) {
-  throw Failure(VORQ_INVALID, Text(source.name, ":", line, ": ", pieces...));
+  throw Failure(VORQ_INVALID, Text(source.name, ":", line, ": ", ShownPiece(pieces)...));
 }
 
 class LineReader {

@@ -1,6 +1,7 @@
 // Damaged texts end in a model or in a failure with a text, whatever is cut off or changed.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 #include "solver/files/basis_file.hpp"
@@ -115,6 +116,21 @@ TEST_P(DamagedFiles, AnyChangedBytesEndWell) {
   }
   EXPECT_GT(successes_, 0);
   EXPECT_GT(failures_, 0);
+}
+
+// Neither a line of megabytes nor rubbish makes a failure of megabytes or control characters.
+TEST_P(DamagedFiles, MessagesAreShortAndPrintable) {
+  std::string rubbish;
+  for (int k = 1; k < 32; ++k) rubbish += static_cast<char>(k);
+  std::string const& good = GetParam().text;
+  auto const middle = good.find('\n', good.size() / 2) + 1;
+  for (std::string const& bad : {std::string(2'000'000, 'x'), rubbish, std::string(1'000'000, '9')}) {
+    for (std::string const& text : {bad, " " + bad + " 1 2", good.substr(0, middle) + bad + good.substr(middle)}) {
+      std::string const failure = FailureOf([&] { GetParam().use(text); });
+      EXPECT_LT(failure.size(), 400u);
+      EXPECT_TRUE(std::ranges::all_of(failure, [](char c) { return static_cast<unsigned char>(c) >= ' '; })) << failure;
+    }
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Formats, DamagedFiles,
