@@ -4,10 +4,9 @@
 #include <algorithm>
 #include <cstddef>
 #include <map>
-#include <optional>
 #include <span>
 #include <string>
-#include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -62,7 +61,10 @@ class CbfWriter {
     int member;
     int col;
     int row;
-    auto operator<=>(Place const&) const = default;
+
+    friend bool operator<(Place const& a, Place const& b) {
+      return std::tie(a.owner, a.member, a.col, a.row) < std::tie(b.owner, b.member, b.col, b.row);
+    }
   };
   using MatrixEntries = std::map<Place, double>;
 
@@ -131,13 +133,11 @@ class CbfWriter {
   // ------------------------------------------------------------------ constraints
   // Begins a constraint with the constant in the domain, and gives its number.
   int AddConstraint(CbfDomainName const& domain, double constant, bool beginsCone = true) {
-    bool const single = domain.coneType == 0;
-    if (single && !cones_.empty() && cones_.back().domain == &domain) {
+    bool const alike = domain.coneType == 0 && !cones_.empty() && cones_.back().domain == &domain;
+    if (alike || !beginsCone) {
       ++cones_.back().size;
-    } else if (beginsCone) {
-      cones_.push_back({&domain, 1});
     } else {
-      ++cones_.back().size;
+      cones_.push_back({&domain, 1});
     }
     constants_.push_back(constant);
     return static_cast<int>(constants_.size()) - 1;
