@@ -29,7 +29,8 @@ class Session {
   void Check(Object& object, std::string const& culprit) const {
     if (object.GetLastError() == 0) return;
     std::string const cause = listener_.Error().empty() ? object.GetErrorMessage() : listener_.Error();
-    throw CommandFailure(culprit.empty() ? cause : culprit + ": " + cause);
+    // The cause of a bad file begins with its path.
+    throw CommandFailure(culprit.empty() || cause.starts_with(culprit) ? cause : culprit + ": " + cause);
   }
 
  private:

@@ -139,6 +139,13 @@ TEST_F(Tool, RefusesAConversionThatTheFormatCannotHold) {
   EXPECT_FALSE(std::filesystem::exists(out));
 }
 
+TEST_F(Tool, NamesFileLineAndCauseOfABadConversion) {
+  std::string const file = folder_.Write("bad.cbf", "VER\n1\nVAR\n1 1\nX 1\n");
+  ProgramResult const result = Run("convert " + file + " " + folder_.File("a.bin").string());
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_EQ(result.errors, "vorq: " + file + ":5: unknown cone 'X'\n");
+}
+
 TEST_F(Tool, RefusesEndingsThatCannotBeConverted) {
   std::string const lp = folder_.Write("m.lp", kDiet);
   EXPECT_EQ(Run("convert " + lp + " a.dat-s").errors, "vorq: a.dat-s: a problem of this ending cannot be written\n");
