@@ -43,7 +43,9 @@ std::map<std::string, Size> ReadTable(fs::path const& path) {
     std::getline(cells, kind, ',');
     std::getline(cells, rows, ',');
     std::getline(cells, columns, ',');
-    table[name + "." + format] = {std::stoi(rows), std::stoi(columns)};
+    name += '.';
+    name += format;
+    table[name] = {std::stoi(rows), std::stoi(columns)};
   }
   // Here the table counts what a solver's own reformulation added: a column and a row for each indicator, and rows for
   // semicontinuous columns.

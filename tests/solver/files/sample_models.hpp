@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <random>
 #include <string>
 #include <utility>
@@ -55,8 +56,8 @@ class RandomModel {
   int Column() { return Pick(data_.columns.Count()); }
 
   std::vector<int> DistinctColumns(int most) {
-    std::vector<int> cols;
-    for (int j = 0; j < data_.columns.Count(); ++j) cols.push_back(j);
+    std::vector<int> cols(data_.columns.type.size());
+    std::iota(cols.begin(), cols.end(), 0);
     std::ranges::shuffle(cols, random_);
     cols.resize(static_cast<std::size_t>(std::min(most, data_.columns.Count())));
     return cols;
@@ -67,6 +68,7 @@ class RandomModel {
     auto cols = DistinctColumns(Pick(most + 1));
     std::ranges::sort(cols);
     std::vector<LinearTerm> terms;
+    terms.reserve(cols.size());
     for (int const col : cols) terms.push_back({col, Value()});
     return terms;
   }
