@@ -91,11 +91,11 @@ class LpReader {
     TakeLabel();
     LpToken const start = tokens_.Peek();
     LpExpression const expression = expressions_.Read(LpSide::kLeft);
-    CheckFinite(expression, start, "the objective");
-    if (std::abs(expression.constant) >= kInfinity) tokens_.Refuse(start, "the constant of the objective is infinite");
+    if (!IsFinite(expression.constant)) tokens_.Refuse(start, "the constant of the objective is infinite");
     data_.objective.constant = expression.constant;
     data_.objective.quadratic = MergedTerms(expression.quadratic);
     Merge(expression.linear);
+    CheckFinite(data_.objective.quadratic, start, "the objective");
     objective_ = std::move(merged_);
     if (AtStatement()) tokens_.RefuseToken(tokens_.Peek(), "an operator or a section");
   }
@@ -116,10 +116,13 @@ class LpReader {
     }
   }
 
-  void CheckFinite(LpExpression const& expression, LpToken const& start, std::string_view what) const {
+  static bool IsFinite(double value) { return std::abs(value) < kInfinity; }  // false for NaN
+
+  // Of the merged terms: sums may leave the range, too.
+  void CheckFinite(std::vector<QuadTerm> const& quadratic, LpToken const& start, std::string_view what) const {
     bool finite = true;
-    for (auto const& term : expression.linear) finite = finite && std::isfinite(term.value);
-    for (auto const& term : expression.quadratic) finite = finite && std::isfinite(term.value);
+    for (auto const& term : merged_) finite = finite && IsFinite(term.value);
+    for (auto const& term : quadratic) finite = finite && IsFinite(term.value);
     if (!finite) tokens_.Refuse(start, "a coefficient of ", what, " is out of range");
   }
 
@@ -197,14 +200,18 @@ class LpReader {
   }
 
   void Store(LpExpression const& expression, LpInterval interval, LpToken const& start, LpRows& rows, bool allKinds) {
-    CheckFinite(expression, start, name_.empty() ? Text("the constraint") : Text("constraint '", name_, "'"));
+    if (std::isnan(interval.lower) || std::isnan(interval.upper)) {
+      tokens_.Refuse(start, "the right-hand side is out of range");
+    }
     if (interval.lower == interval.upper && std::abs(interval.lower) >= kInfinity) {
       tokens_.Refuse(start, "an equality with an infinite right-hand side");
     }
     Merge(expression.linear);
-    if (!expression.quadratic.empty()) {
+    auto quadratic = MergedTerms(expression.quadratic);
+    CheckFinite(quadratic, start, name_.empty() ? Text("the constraint") : Text("constraint '", name_, "'"));
+    if (!quadratic.empty()) {
       if (!allKinds) tokens_.Refuse(start, "a lazy constraint or user cut with quadratic terms");
-      StoreQuadratic(expression, interval, start);
+      StoreQuadratic(std::move(quadratic), interval, start);
       return;
     }
     for (LinearTerm const& term : merged_) {
@@ -217,16 +224,14 @@ class LpReader {
     rows.names.push_back(name_);
   }
 
-  void StoreQuadratic(LpExpression const& expression, LpInterval interval, LpToken const& start) {
+  void StoreQuadratic(std::vector<QuadTerm> quadratic, LpInterval interval, LpToken const& start) {
     bool const equal = interval.lower == interval.upper;
     bool const below = interval.lower <= -kInfinity;
     if (!equal && !below && interval.upper < kInfinity) tokens_.Refuse(start, "a range of a quadratic constraint");
+    double const rhs = below ? interval.upper : interval.lower;
+    if (!IsFinite(rhs)) tokens_.Refuse(start, "a quadratic constraint with an infinite right-hand side");
     data_.quadConstraintNames.Set(static_cast<int>(data_.quadConstraints.size()), name_);
-    data_.quadConstraints.push_back({merged_, MergedTerms(expression.quadratic),
-                                     equal   ? 'E'
-                                     : below ? 'L'
-                                             : 'G',
-                                     below ? interval.upper : interval.lower});
+    data_.quadConstraints.push_back({merged_, std::move(quadratic), equal ? 'E' : below ? 'L' : 'G', rhs});
   }
 
   // "b = 1 -> x + y <= 3", from the number on.
@@ -244,14 +249,15 @@ class LpReader {
     LpExpression const right = ReadSide(LpSide::kRight);
     expression.Add(right, -1.0);
     if (!expression.quadratic.empty()) tokens_.Refuse(start, "an indicator of a quadratic constraint");
-    CheckFinite(expression, start, "the indicator");
+    if (!IsFinite(expression.constant)) tokens_.Refuse(start, "an indicator with an infinite right-hand side");
     Merge(expression.linear);
+    CheckFinite({}, start, "the indicator");
     Indicator indicator;
     indicator.binCol = left.linear[0].col;
     indicator.binVal = number.value == 1.0 ? 1 : 0;
     indicator.terms = merged_;
     indicator.sense = relation == LpTokenKind::kEqual ? 'E' : relation == LpTokenKind::kLess ? 'L' : 'G';
-    indicator.rhs = Clipped(0.0 - expression.constant);
+    indicator.rhs = 0.0 - expression.constant;
     data_.indicatorNames.Set(static_cast<int>(data_.indicators.size()), name_);
     data_.indicators.push_back(std::move(indicator));
     indicatorLines_.push_back(start);

@@ -119,14 +119,14 @@ class Assembly {
 
   void AddQuadConstraint(std::size_t i) {
     MpsRow const& row = content_.rows[i];
-    RefuseRange(row, "quadratic constraint");
+    CheckSingleSide(row, "quadratic constraint");
     data_.quadConstraintNames.Set(static_cast<int>(data_.quadConstraints.size()), row.name);
     data_.quadConstraints.push_back({byRow_.Terms(i), std::move(quadTerms_[i]), row.sense, row.rhs});
   }
 
   void AddIndicator(std::size_t i) {
     MpsRow const& row = content_.rows[i];
-    RefuseRange(row, "indicator");
+    CheckSingleSide(row, "indicator");
     if (!MakeBinary(data_.columns, row.indicatorCol)) {
       RefuseText(source_, row.line, "column '", data_.columns.names.Get(row.indicatorCol), "' of indicator '", row.name,
                  "' is not binary");
@@ -141,7 +141,10 @@ class Assembly {
     data_.indicators.push_back(std::move(indicator));
   }
 
-  void RefuseRange(MpsRow const& row, char const* kind) const {
+  void CheckSingleSide(MpsRow const& row, char const* kind) const {
+    if (std::abs(row.rhs) >= kInfinity) {
+      RefuseText(source_, row.line, kind, " '", row.name, "' has an infinite right-hand side");
+    }
     if (row.hasRange) RefuseText(source_, row.line, kind, " '", row.name, "' has a range");
   }
 
