@@ -22,6 +22,7 @@
 #include "solver/files/sdpa_reader.hpp"
 #include "solver/files/solution_file.hpp"
 #include "solver/files/text_source.hpp"
+#include "solver/files/tune_file.hpp"
 #include "solver/tasks/feas_relax.hpp"
 #include "solver/tasks/iis.hpp"
 
@@ -258,7 +259,11 @@ int VORQ_WriteParam(VORQ_Prob* prob, char const* path) {
 }
 
 int VORQ_ReadTune(VORQ_Prob* prob, char const* path) {
-  return Guard(prob, [&] { RefuseFormat(path, "read", "tuning files"); });
+  return Guard(prob, [&](Problem& problem) {
+    RefuseWhileSolving(problem);
+    problem.tuning.choices = ReadTuneFile(PathOf(path));
+    problem.log.Line(Text("Read '", path, "': values of ", problem.tuning.choices.size(), " parameters to be tried"));
+  });
 }
 int VORQ_WriteIIS(VORQ_Prob* prob, char const* path) {
   return Guard(prob, [&](Problem& problem) {
@@ -277,6 +282,14 @@ int VORQ_WriteRelax(VORQ_Prob* prob, char const* path) {
     WriteModelFile(problem, target, WriteLp(RelaxationProblem(problem.data, relaxed.penalties, relaxed.mode)));
   });
 }
-int VORQ_WriteTuneParam(VORQ_Prob* prob, int, char const* path) {
-  return Guard(prob, [&] { RefuseFormat(path, "write", "tuning files"); });
+int VORQ_WriteTuneParam(VORQ_Prob* prob, int index, char const* path) {
+  return Guard(prob, [&](Problem& problem) {
+    std::string const target = PathOf(path);
+    auto const& sets = problem.tuning.sets;
+    if (index < 0 || static_cast<std::size_t>(index) >= sets.size()) {
+      Refuse("Tuned parameter set ", index, " does not exist (there are ", sets.size(), ")");
+    }
+    WriteTunedSet(target, sets[static_cast<std::size_t>(index)]);
+    problem.log.Line(Text("Wrote '", path, "'"));
+  });
 }

@@ -9,6 +9,7 @@
 #include "solver/api/guard.hpp"
 #include "solver/tasks/feas_relax.hpp"
 #include "solver/tasks/iis.hpp"
+#include "solver/tasks/tune.hpp"
 
 using namespace vorqsolver;
 
@@ -21,24 +22,6 @@ int Idle(VORQ_Prob* prob, Body&& body) noexcept {
     if (problem.solving) Refuse("The problem is being solved");
     body(problem);
   });
-}
-
-// An exception of the caller's callback goes on to the caller, once nothing of the solve is left.
-int SolveOrRethrow(VORQ_Prob* prob, bool relaxed) {
-  std::exception_ptr thrown;
-  int const code = Guard(prob, [&](Problem& problem) {
-    try {
-      SolveProblem(problem, relaxed);
-    } catch (CallbackException const& exception) {
-      thrown = exception.cause;
-    }
-  });
-  if (thrown) std::rethrow_exception(thrown);
-  return code;
-}
-
-int NotAvailable(VORQ_Prob* prob, char const* what) {
-  return Guard(prob, [&](Problem&) { throw Failure(VORQ_INTERNAL, Text(what, " is not available in this version")); });
 }
 
 // Null buffers are skipped.
@@ -115,11 +98,18 @@ int VORQ_FeasRelax(VORQ_Prob* prob, double const* colLow, double const* colUpp, 
 }
 
 int VORQ_Tune(VORQ_Prob* prob) {
-  return NotAvailable(prob, "Tuning");
+  return Guard(prob, [](Problem& problem) { Tune(problem); });
 }
 
-int VORQ_LoadTuneParam(VORQ_Prob* prob, int) {
-  return NotAvailable(prob, "Tuning");
+int VORQ_LoadTuneParam(VORQ_Prob* prob, int index) {
+  return Idle(prob, [&](Problem& problem) {
+    CheckIndex(index, static_cast<int>(problem.tuning.sets.size()), "Tuned parameter set");
+    ParameterSet parameters = problem.parameters;
+    for (auto const& [name, value] : problem.tuning.sets[static_cast<std::size_t>(index)].settings) {
+      parameters.SetText(name, value);
+    }
+    problem.parameters = std::move(parameters);
+  });
 }
 
 // ------------------------------------------------------------------ solutions

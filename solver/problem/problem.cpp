@@ -80,6 +80,7 @@ void Problem::ResetResults(bool all) {
   if (!all) return;
   startBasis = Basis();
   starts.clear();
+  tuning = Tuning();
 }
 
 }  // namespace vorqsolver

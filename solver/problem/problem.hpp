@@ -11,7 +11,7 @@
 #include "solver/parameters/parameter_set.hpp"
 #include "solver/problem/problem_data.hpp"
 #include "solver/problem/solution.hpp"
-#include "solver/tasks/callback_session.hpp"
+#include "solver/problem/tuning.hpp"
 #include "solver/tasks/log.hpp"
 
 namespace vorqsolver {
@@ -30,6 +30,7 @@ class Problem {
 
   Basis startBasis;              // given by the caller for the next solve, empty if none
   std::vector<MipStart> starts;  // MIP starts for the next solve
+  Tuning tuning;                 // stays until the next tuning or a reset of everything
 
   Log log{&parameters};
   UserCallback callback;
