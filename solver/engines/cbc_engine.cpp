@@ -12,6 +12,7 @@
 #include <OsiClpSolverInterface.hpp>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <memory>
 
 #include "solver/engines/branch_and_cut.hpp"
@@ -21,6 +22,7 @@
 #include "solver/engines/mip_model.hpp"
 #include "solver/engines/mip_progress.hpp"
 #include "solver/problem/failure.hpp"
+#include "solver/tasks/check.hpp"
 
 namespace vorqsolver {
 
@@ -66,6 +68,17 @@ class SearchWatch : public CbcEventHandler {
   std::vector<std::vector<double>>* found_;
 };
 
+std::string WorstViolation(Violations const& found) {
+  std::pair<double, char const*> const kinds[] = {{found.bounds, "a bound"},
+                                                  {found.rows, "a row"},
+                                                  {found.integrality, "integrality"},
+                                                  {found.discrete, "an SOS, indicator or semicontinuity"}};
+  auto const& [amount, kind] = *std::ranges::max_element(kinds, {}, &std::pair<double, char const*>::first);
+  char text[40];
+  std::snprintf(text, sizeof text, " violated by %.3g", amount);
+  return std::string(kind) + text;
+}
+
 class CbcSolver {
  public:
   explicit CbcSolver(SolveTask const& task)
@@ -84,7 +97,7 @@ class CbcSolver {
   bool SolveRoot();
   bool FinishUnboundedRoot();
   void TakeStarts();
-  bool TakeStart(MipStart const& start, std::string& cause);
+  bool TakeStart(MipStart const& start, std::string& outcome);
   bool CompletePartial(MipStart const& start);
   std::unique_ptr<OsiClpSolverInterface> Preprocess();
   bool MayPreprocess() const;
@@ -197,43 +210,51 @@ void CbcSolver::TakeStarts() {
   int number = 0;
   for (auto const& start : task_.starts) {
     ++number;
-    std::string cause;
-    if (TakeStart(start, cause)) {
-      task_.log.Print("MIP start %d: accepted, best objective so far %.9e", number, incumbents_.Best().objective);
+    std::string outcome;
+    if (TakeStart(start, outcome)) {
+      task_.log.Print("MIP start %d: %s, objective %.9e", number, outcome.c_str(), incumbents_.LastObjective());
       progress_.Incumbent(EngineValue(incumbents_.Best().objective), 'S');
     } else {
-      task_.log.Print("MIP start %d: rejected, %s", number, cause.c_str());
+      task_.log.Print("MIP start %d: rejected, %s", number, outcome.c_str());
     }
   }
 }
 
-bool CbcSolver::TakeStart(MipStart const& start, std::string& cause) {
+// `outcome` tells what was done to the start, or why it gave no solution.
+bool CbcSolver::TakeStart(MipStart const& start, std::string& outcome) {
   enum Mode { kRejectAll = 0, kFullOnly = 1, kNoRepair = 2 };
   int const mode = task_.parameters.Int(IntParam::kMipStartMode);
   auto const& columns = task_.data.columns;
-  bool isFull = true;
+  int open = 0;
   bool hasIntegers = true;
   for (int col = 0; col < columns.Count(); ++col) {
     bool const isOpen = start.values[col] == VORQ_UNDEFINED;
-    isFull &= !isOpen;
+    open += isOpen ? 1 : 0;
     hasIntegers &= !isOpen || columns.type[col] == 'C';
   }
-  cause = "the parameters say so";
+  bool const isFull = open == 0;
+  outcome = "as MipStartMode says";
   if (mode == kRejectAll) return false;
+  outcome = "accepted";
   if (isFull && incumbents_.KeepAsIs(start.values)) return true;
-  cause = isFull ? "infeasible" : "incomplete";
+  outcome = isFull ? Text("infeasible, ", WorstViolation(CheckSolution(task_.data, start.values)))
+                   : Text("incomplete, ", open, " columns are open");
   if (mode == kFullOnly || (mode == kNoRepair && isFull)) return false;
-  cause = "no solution with these values was found";
   bool const isLinearRest = hasIntegers && task_.data.soss.empty();
-  if (!isLinearRest) return CompletePartial(start);
-  std::vector<double> values = start.values;
-  std::ranges::replace(values, VORQ_UNDEFINED, 0.0);
-  return incumbents_.Complete(values, false);
+  bool isFound = false;
+  if (isLinearRest) {
+    std::vector<double> values = start.values;
+    std::ranges::replace(values, VORQ_UNDEFINED, 0.0);
+    isFound = incumbents_.Complete(values, false);
+  } else {
+    isFound = CompletePartial(start);
+  }
+  outcome = isFound ? (isFull ? "repaired" : "completed") : outcome + ", and no solution with its integers was found";
+  return isFound;
 }
 
 // Fixes the integer columns that the start gives and searches the rest for a while.
 bool CbcSolver::CompletePartial(MipStart const& start) {
-  constexpr int kNodes = 200;
   OsiClpSolverInterface fixed(solver_);
   Control(fixed);
   for (int col = 0; col < task_.data.columns.Count(); ++col) {
@@ -249,7 +270,7 @@ bool CbcSolver::CompletePartial(MipStart const& start) {
   model.setLogLevel(0);
   SetUpCbc(model, task_.parameters, !mip_.sets.empty());
   int const limit = task_.parameters.Int(IntParam::kMipStartNodeLimit);
-  model.setMaximumNodes(limit < 0 ? kNodes : limit);
+  model.setMaximumNodes(limit < 0 ? std::numeric_limits<int>::max() : limit);
   model.setUseElapsedTime(true);
   model.setMaximumSeconds(std::max(0.0, task_.stop.Remaining()));
   AddSets(model, mip_.sets);

@@ -56,10 +56,11 @@ bool MipIncumbents::KeepAsIs(std::span<double const> values) {
 bool MipIncumbents::Insert(std::vector<double> values) {
   auto const& data = task_.data;
   if (!CheckSolution(data, values).Holds(task_.parameters)) return false;
+  lastObjective_ = ObjectiveOf(data, values);
   for (auto const& known : pool_) {
     if (IsSame(known.values, values)) return true;
   }
-  PoolSolution solution{ObjectiveOf(data, values), std::move(values)};
+  PoolSolution solution{lastObjective_, std::move(values)};
   double const sign = data.objective.sense < 0 ? -1.0 : 1.0;
   auto const place = std::ranges::upper_bound(pool_, sign * solution.objective, {},
                                               [&](PoolSolution const& known) { return sign * known.objective; });

@@ -26,6 +26,9 @@ class MipIncumbents {
   bool IsEmpty() const { return pool_.empty(); }
   PoolSolution const& Best() const { return pool_.front(); }
 
+  // The objective of the solution that was kept last, known or not.
+  double LastObjective() const { return lastObjective_; }
+
   // The LP of the best solution, empty where that was taken as it is.
   SolveResult const& BestLp() const { return bestLp_; }
 
@@ -34,6 +37,7 @@ class MipIncumbents {
 
   SolveTask const& task_;
   std::vector<PoolSolution> pool_;
+  double lastObjective_ = 0.0;
   SolveResult bestLp_;
 };
 

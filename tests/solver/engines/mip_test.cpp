@@ -150,7 +150,7 @@ TEST_F(MipTest, PartialStartIsCompleted) {
   double const one = 1.0;
   ASSERT_EQ(VORQ_AddMipStart(prob, 1, &col, &one), VORQ_OK);
   ASSERT_EQ(Solve(), kOptimal);
-  EXPECT_THAT(lines, testing::Contains(testing::StartsWith("MIP start 1: accepted")));
+  EXPECT_THAT(lines, testing::Contains(testing::StartsWith("MIP start 1: completed")));
   EXPECT_NEAR(Dbl("BestObj"), 25.0, 1e-9);
 }
 

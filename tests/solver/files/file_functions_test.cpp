@@ -176,14 +176,23 @@ TEST_F(FileFunctions, ABasisIsWrittenAndRead) {
   EXPECT_EQ(VORQ_ReadBasis(prob_, Path("a.bas").c_str()), VORQ_OK);
 }
 
+int WriteTuned(VORQ_Prob* prob, char const* path) {
+  return VORQ_WriteTuneParam(prob, 0, path);
+}
+
 TEST_F(FileFunctions, WithoutResultsThereIsNothingToWrite) {
   ReadSample(true);
   EXPECT_EQ(VORQ_WriteSol(prob_, Path("a").c_str()), VORQ_INVALID);
   EXPECT_EQ(VORQ_WriteMst(prob_, Path("a").c_str()), VORQ_INVALID);
   EXPECT_EQ(VORQ_WriteBasis(prob_, Path("a").c_str()), VORQ_INVALID);
+  EXPECT_EQ(VORQ_WriteIIS(prob_, Path("a").c_str()), VORQ_INVALID);
+  EXPECT_EQ(VORQ_WriteRelax(prob_, Path("a").c_str()), VORQ_INVALID);
+  EXPECT_EQ(WriteTuned(prob_, Path("a").c_str()), VORQ_INVALID);
   EXPECT_EQ(lines_, (std::vector<std::string>{"Error: There is no solution to write",
                                               "Error: There is neither a solution nor a MIP start to write",
-                                              "Error: There is no basis to write"}));
+                                              "Error: There is no basis to write", "Error: There is no IIS to write",
+                                              "Error: There is no feasibility relaxation to write",
+                                              "Error: Tuned parameter set 0 does not exist (there are 0)"}));
   EXPECT_FALSE(fs::exists(Path("a")));
 }
 
@@ -261,18 +270,14 @@ struct NamedFunction {
   int (*call)(VORQ_Prob* prob, char const* path);
 };
 
-int WriteTuned(VORQ_Prob* prob, char const* path) {
-  return VORQ_WriteTuneParam(prob, 0, path);
-}
 int WritePool(VORQ_Prob* prob, char const* path) {
   return VORQ_WritePoolSol(prob, 0, path);
 }
 
 TEST_F(FileFunctions, FormatsThatAreNotThereFailAndSaySo) {
-  NamedFunction const functions[] = {{"read tuning files", VORQ_ReadTune},
-                                     {"write IIS files", VORQ_WriteIIS},
-                                     {"write feasibility relaxation files", VORQ_WriteRelax},
-                                     {"write tuning files", WriteTuned}};
+  NamedFunction const functions[] = {{"read SDPA files", VORQ_ReadSDPA},    {"read CBF files", VORQ_ReadCbf},
+                                     {"read binary files", VORQ_ReadBin},   {"write CBF files", VORQ_WriteCbf},
+                                     {"write binary files", VORQ_WriteBin}, {"write NL files", VORQ_WriteNL}};
   for (auto const& [line, call] : functions) {
     EXPECT_EQ(call(prob_, Path("x").c_str()), VORQ_INTERNAL);
     EXPECT_EQ(lines_.back(), "Error: '" + Path("x") + "': this version does not " + line);

@@ -235,6 +235,8 @@ TEST_F(AttributesTest, IisMembersAreCountedOnceEach) {
   iis.soss = {1, 1};
   EXPECT_EQ(Int("HasIIS"), 1);
   EXPECT_EQ(Int("IsMinIIS"), 1);
+  iis.irreducible = false;
+  EXPECT_EQ(Int("IsMinIIS"), 0);
   EXPECT_EQ(Int("IISCols"), 2);
   EXPECT_EQ(Int("IISRows"), 1);
   EXPECT_EQ(Int("IISSOSs"), 2);
@@ -279,10 +281,17 @@ TEST_F(AttributesTest, InfeasibilitiesNeedASolution) {
   EXPECT_EQ(FailureOf("DualInfMax"), "Attribute DualInfMax has no value: There is no dual solution");
 }
 
+TEST_F(AttributesTest, RelaxationTellsItsPenalty) {
+  EXPECT_EQ(FailureOf("FeasRelaxObj"), "Attribute FeasRelaxObj has no value: There is no feasibility relaxation");
+  problem_.result.relaxed.available = true;
+  problem_.result.relaxed.penalty = 2.5;
+  EXPECT_EQ(Dbl("FeasRelaxObj"), 2.5);
+  EXPECT_EQ(Int("HasFeasRelaxSol"), 1);
+}
+
 TEST_F(AttributesTest, WhatIsNotComputedFails) {
-  for (char const* name :
-       {"FeasRelaxObj", "ReadingTime", "IISTime", "FeasRelaxTime", "TuneTime", "BarPrimalObj", "BarDualObj",
-        "DimacPInf", "DimacDInf", "DimacMinPEV", "DimacMinDEV", "DimacRelGap", "DimacRelXDotS"}) {
+  for (char const* name : {"ReadingTime", "BarPrimalObj", "BarDualObj", "DimacPInf", "DimacDInf", "DimacMinPEV",
+                           "DimacMinDEV", "DimacRelGap", "DimacRelXDotS"}) {
     EXPECT_EQ(FailureOf(name),
               "Attribute " + std::string(name) + " has no value: The attribute is not computed by this version");
   }
