@@ -28,6 +28,16 @@ struct SolveArguments {
 // Reads what follows `vorq solve`.
 SolveArguments ParseSolveArguments(std::span<char const* const> arguments);
 
+// Of `vorq iis` and `vorq relax`.
+struct DiagnoseArguments : SolveArguments {
+  std::string outputFile;  // the infeasible set, or the relaxed problem; empty: none is written
+  bool rows = true;        // whether a relaxation may violate rows
+  bool bounds = true;      // and bounds of columns
+};
+
+DiagnoseArguments ParseIisArguments(std::span<char const* const> arguments);
+DiagnoseArguments ParseRelaxArguments(std::span<char const* const> arguments);
+
 struct ConvertArguments {
   std::string input;
   std::string output;

@@ -6,8 +6,10 @@
 
 #include "cli/arguments.hpp"
 #include "cli/convert_command.hpp"
+#include "cli/iis_command.hpp"
 #include "cli/interrupt_watcher.hpp"
 #include "cli/outcome.hpp"
+#include "cli/relax_command.hpp"
 #include "cli/solve_command.hpp"
 
 #include <vorq>
@@ -18,9 +20,19 @@ constexpr char kUsage[] =
     "usage: vorq COMMAND [ARGUMENT]...\n"
     "\n"
     "  vorq solve FILE        read a model, solve it and print the result\n"
+    "  vorq iis FILE          read an infeasible model and print an irreducible infeasible set\n"
+    "  vorq relax FILE        read a model and find the point that violates it the least\n"
     "  vorq convert IN OUT    read a model and write it in another format\n"
     "  vorq --version         print the version\n"
     "  vorq --help            print this text; vorq COMMAND --help tells of a command\n";
+
+// Prints the usage where the arguments ask for help.
+template <class Arguments>
+cli::Outcome Run(Arguments const& arguments, char const* usage, cli::Outcome (*run)(Arguments const&)) {
+  if (!arguments.help) return run(arguments);
+  std::fputs(usage, stdout);
+  return cli::Outcome::kOptimal;
+}
 
 cli::Outcome RunCommand(std::span<char const* const> arguments) {
   if (arguments.empty()) throw cli::UsageError("no command is given");
@@ -33,22 +45,11 @@ cli::Outcome RunCommand(std::span<char const* const> arguments) {
     std::printf("vorq %d.%d.%d\n", GetVorqVersion(0), GetVorqVersion(1), GetVorqVersion(2));
     return cli::Outcome::kOptimal;
   }
-  if (command == "solve") {
-    cli::SolveArguments const solve = cli::ParseSolveArguments(arguments.subspan(1));
-    if (solve.help) {
-      std::fputs(cli::kSolveUsage, stdout);
-      return cli::Outcome::kOptimal;
-    }
-    return cli::RunSolve(solve);
-  }
-  if (command == "convert") {
-    cli::ConvertArguments const convert = cli::ParseConvertArguments(arguments.subspan(1));
-    if (convert.help) {
-      std::fputs(cli::kConvertUsage, stdout);
-      return cli::Outcome::kOptimal;
-    }
-    return cli::RunConvert(convert);
-  }
+  auto const rest = arguments.subspan(1);
+  if (command == "solve") return Run(cli::ParseSolveArguments(rest), cli::kSolveUsage, cli::RunSolve);
+  if (command == "iis") return Run(cli::ParseIisArguments(rest), cli::kIisUsage, cli::RunIis);
+  if (command == "relax") return Run(cli::ParseRelaxArguments(rest), cli::kRelaxUsage, cli::RunRelax);
+  if (command == "convert") return Run(cli::ParseConvertArguments(rest), cli::kConvertUsage, cli::RunConvert);
   throw cli::UsageError("unknown command '" + command + "'");
 }
 

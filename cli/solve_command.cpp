@@ -10,34 +10,11 @@
 
 #include "cli/interrupt_watcher.hpp"
 #include "cli/json.hpp"
-#include "cli/numbers.hpp"
+#include "cli/model_setup.hpp"
 #include "cli/session.hpp"
 
 namespace cli {
 namespace {
-
-void ApplySetting(Session& session, std::string const& name, std::string const& value) {
-  constexpr int kDoubleParameter = 0;
-  constexpr int kIntParameter = 1;
-  Vorq::IModel& model = session.Model();
-  std::string const culprit = "--set " + name + "=" + value;
-  switch (model.SearchParamAttr(name.c_str())) {
-    case kDoubleParameter: {
-      auto const number = ParseDouble(value);
-      if (!number) throw CommandFailure(culprit + ": the value is not a number");
-      model.SetDblParam(name.c_str(), *number);
-      break;
-    }
-    case kIntParameter: {
-      auto const number = ParseInt(value);
-      if (!number) throw CommandFailure(culprit + ": the value is not a whole number");
-      model.SetIntParam(name.c_str(), *number);
-      break;
-    }
-    default: throw CommandFailure(culprit + ": there is no such parameter");
-  }
-  session.Check(model, culprit);
-}
 
 void ReadReport(Session& session, SolveReport& report) {
   Vorq::IModel& model = session.Model();
@@ -60,13 +37,7 @@ SolveReport Solve(SolveArguments const& arguments) {
   Session session(!arguments.json);
   Vorq::IModel& model = session.Model();
   try {
-    model.Read(arguments.file.c_str());
-    session.Check(model, arguments.file);
-    for (auto const& [name, value] : arguments.settings) ApplySetting(session, name, value);
-    if (arguments.timeLimit) {
-      model.SetDblParam("TimeLimit", *arguments.timeLimit);
-      session.Check(model, "--time-limit");
-    }
+    SetUpModel(session, arguments);
     {
       InterruptWatcher const watcher(model);
       model.Solve();

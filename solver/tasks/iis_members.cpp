@@ -155,7 +155,7 @@ void Statement::AddLazy(bool asRows) {
   auto const& from = data_.lazyConstraints;
   auto& to = stated_.data.lazyConstraints;
   to = SideRows();
-  if (!asRows) to.matrix.AppendEmptyCols(stated_.data.columns.Count());
+  to.matrix.AppendEmptyCols(stated_.data.columns.Count());
   for (int row = 0; row < from.Count(); ++row) {
     auto const view = from.matrix.Row(row);
     if (asRows) {
@@ -176,9 +176,10 @@ MemberProblem Statement::Build(bool lazyAsRows) {
     stated_.data = data_;
     stated_.data.objective = Objective();
   }
-  stated_.data.userCuts = SideRows();
   MarkColumns();
   AddColumns();
+  stated_.data.userCuts = SideRows();
+  stated_.data.userCuts.matrix.AppendEmptyCols(stated_.data.columns.Count());
   AddRows();
   AddSosAndIndicators();
   AddLazy(lazyAsRows);

@@ -32,6 +32,7 @@ Relaxation::Relaxation(ProblemData const& original, RelaxPenalties const& penalt
   for (int row = 0; row < rows; ++row) RelaxRow(row);
   for (int col = 0; col < colCount_; ++col) RelaxColumn(col);
   data_.lazyConstraints.matrix.AppendEmptyCols(data_.columns.Count() - colCount_);
+  data_.userCuts.matrix.AppendEmptyCols(data_.columns.Count());
 }
 
 int Relaxation::AddCol(double upper, double cost, char type, std::string const& name) {

@@ -169,4 +169,46 @@ TEST_F(Tool, TellsItsUsageOnAMistake) {
   EXPECT_EQ(Run("solve --help").exitCode, 0);
 }
 
+constexpr char kContradiction[] =
+    "Minimize\n o: x + y\nSubject To\n low: x + y >= 10\n high: x + y <= 4\n idle: x - y <= 3\nEnd\n";
+
+TEST_F(Tool, PrintsAnInfeasibleSet) {
+  std::string const model = folder_.Write("model.lp", kContradiction);
+  ProgramResult const result = Run("iis " + model + " --output " + folder_.File("set.lp").string());
+  EXPECT_EQ(result.exitCode, 0) << result.errors;
+  EXPECT_THAT(result.output, HasSubstr("status: infeasible\nirreducible: yes\nrow low >= 10\nrow high <= 4\n"));
+  EXPECT_EQ(Run("solve " + folder_.File("set.lp").string()).exitCode, 3);
+}
+
+TEST_F(Tool, PrintsAnInfeasibleSetAsJson) {
+  ProgramResult const result = Run("iis " + folder_.Write("model.lp", kContradiction) + " --json");
+  EXPECT_EQ(result.exitCode, 0) << result.errors;
+  EXPECT_THAT(result.output, StartsWith("{\"status\": \"infeasible\", \"irreducible\": 1, \"rows\": 2, \"columns\": 0, "
+                                        "\"sos\": 0, \"indicators\": 0, \"time\": "));
+}
+
+TEST_F(Tool, SaysThatAFeasibleModelHasNoInfeasibleSet) {
+  ProgramResult const result = Run("iis " + folder_.Write("model.lp", kDiet) + " --json");
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_THAT(result.errors, HasSubstr("There is no IIS: the problem is feasible"));
+}
+
+TEST_F(Tool, RelaxesAModel) {
+  std::string const model = folder_.Write("model.lp", kContradiction);
+  ProgramResult const result = Run("relax " + model + " --solution " + folder_.File("point.sol").string());
+  EXPECT_EQ(result.exitCode, 0) << result.errors;
+  EXPECT_THAT(result.output, HasSubstr("status: optimal\npenalty: 6\n"));
+  EXPECT_THAT(FileText(folder_.File("point.sol")), HasSubstr("x "));
+  ProgramResult const bounds = Run("relax " + model + " --bounds-only --json");
+  EXPECT_EQ(bounds.exitCode, 3);
+  EXPECT_THAT(bounds.output, StartsWith("{\"status\": \"infeasible\", \"penalty\": null, "));
+}
+
+TEST_F(Tool, RefusesToRelaxNothing) {
+  EXPECT_EQ(Run("relax x.lp --rows-only --bounds-only").exitCode, 2);
+  EXPECT_EQ(Run("iis").exitCode, 2);
+  EXPECT_EQ(Run("iis x.lp --solution y").exitCode, 2);
+  EXPECT_EQ(Run("relax --help").exitCode, 0);
+}
+
 }  // namespace

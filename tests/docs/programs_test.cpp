@@ -31,6 +31,15 @@ TEST(Documentation, SolvingTourPrintsValueAndDuals) {
   EXPECT_THAT(result.output, HasSubstr("cost 420, dual 5, reduced cost -2\n"));
 }
 
+TEST(Documentation, InfeasibilityTourNamesWhatContradictsItself) {
+  ProgramResult const result = RunExample("infeasibility_tour");
+  EXPECT_EQ(result.exitCode, 0) << result.errors;
+  EXPECT_THAT(result.output, HasSubstr("2 rows and "));
+  EXPECT_THAT(result.output, HasSubstr("  weight is at least 10\n"));
+  EXPECT_THAT(result.output, HasSubstr("for 1 of penalties: "));
+  EXPECT_THAT(result.output, HasSubstr("best 12, "));
+}
+
 TEST(Documentation, ConicTourSolvesWhatCanBeSolved) {
   ProgramResult const result = RunExample("conic_tour");
   EXPECT_EQ(result.exitCode, 0) << result.errors;

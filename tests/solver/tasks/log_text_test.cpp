@@ -13,6 +13,7 @@ class LogTextTest : public SolveTest {
     std::string text;
     for (auto const& line : lines) {
       auto masked = std::regex_replace(line, std::regex("[0-9]+\\.[0-9]+s"), "#s");
+      masked = std::regex_replace(masked, std::regex("\\(engines: .*\\)"), "(engines)");
       masked = std::regex_replace(masked, std::regex("(Clp|Cbc|Vorq) [0-9.]+[0-9]"), "$1 #");
       masked = std::regex_replace(masked, std::regex("[0-9]+ iterations|Iterations   [0-9]+"), "# iterations");
       text += masked + "\n";
@@ -29,7 +30,7 @@ TEST_F(LogTextTest, OfALinearProblem) {
   ListenToLog();
   Set("Presolve", 0);
   Solve();
-  EXPECT_EQ(Text(), R"(Vorq #, optimisation solver library (engines: Clp #, Cbc #)
+  EXPECT_EQ(Text(), R"(Vorq #, optimisation solver library (engines)
 Maximising the problem
   1 rows, 2 columns, 2 elements
 Engine Clp # for linear rows
@@ -45,7 +46,7 @@ TEST_F(LogTextTest, OfAnInfeasibleProblem) {
   Col(1.0, 3.0, 2.0);
   ListenToLog();
   Solve();
-  EXPECT_EQ(Text(), R"(Vorq #, optimisation solver library (engines: Clp #, Cbc #)
+  EXPECT_EQ(Text(), R"(Vorq #, optimisation solver library (engines)
 Minimising the problem
   0 rows, 1 columns, 0 elements
 Status: infeasible
@@ -66,7 +67,7 @@ TEST_F(LogTextTest, OfAMixedIntegerProblemWithAStart) {
   Solve();
   auto const text = Text();
   EXPECT_EQ(text.substr(0, text.find("Status:")),
-            R"(Vorq #, optimisation solver library (engines: Clp #, Cbc #)
+            R"(Vorq #, optimisation solver library (engines)
 Maximising the problem
   1 rows, 3 columns, 3 elements, 3 binary
 Engine Cbc # for integer columns
@@ -87,7 +88,7 @@ TEST_F(LogTextTest, OfAnInfeasibleSet) {
   Row({0}, {1.0}, 'G', 5.0);
   ListenToLog();
   ASSERT_EQ(VORQ_ComputeIIS(prob), VORQ_OK);
-  EXPECT_EQ(Text(), R"(Vorq #, optimisation solver library (engines: Clp #, Cbc #)
+  EXPECT_EQ(Text(), R"(Vorq #, optimisation solver library (engines)
 Computing an IIS of the problem
   1 rows, 1 columns, 1 elements
 A plain cause: row 0: it asks for at least 5 and reaches 2
@@ -105,7 +106,7 @@ TEST_F(LogTextTest, OfAFeasibilityRelaxation) {
   ListenToLog();
   double const one = 1.0;
   ASSERT_EQ(VORQ_FeasRelax(prob, nullptr, nullptr, &one, nullptr), VORQ_OK);
-  EXPECT_EQ(Text(), R"(Vorq #, optimisation solver library (engines: Clp #, Cbc #)
+  EXPECT_EQ(Text(), R"(Vorq #, optimisation solver library (engines)
 Feasibility relaxation of the problem
   1 rows, 1 columns, 1 elements
 Least sum of violations over 1 sides; engine Clp #
