@@ -61,4 +61,44 @@ TEST(Documentation, ArrayTourPrintsArraysAndBlocks) {
   EXPECT_THAT(result.output, HasSubstr("padded:\n[send_1, send_5, 1, 1]\n"));
 }
 
+TEST(Documentation, MatrixModelFindsTheBestProfit) {
+  ProgramResult const result = RunExample("matrix_model");
+  EXPECT_EQ(result.exitCode, 0) << result.errors;
+  EXPECT_THAT(result.output, HasSubstr("profit 10.5\nproducts [2.5, 1.5, 0]\nprices of machine hours "));
+}
+
+TEST(Documentation, NetworkFlowProvesTheCheapestFlow) {
+  ProgramResult const result = RunExample("network_flow");
+  EXPECT_EQ(result.exitCode, 0) << result.errors;
+  EXPECT_THAT(result.output, HasSubstr("cost 14\n"));
+  EXPECT_THAT(result.output, HasSubstr("from 0 to 2: 2 of 2\nfrom 1 to 2: 2 of 2\n"));
+  EXPECT_THAT(result.output, HasSubstr("proven by its duals: yes\n"));
+}
+
+// The line of both programs that tells the cost.
+std::string TotalCost(ProgramResult const& result) {
+  std::size_t const begin = result.output.find("total cost ");
+  if (begin == std::string::npos) return result.output;
+  return result.output.substr(begin, result.output.find_first_of(",\n", begin) - begin);
+}
+
+TEST(Documentation, ProductionMatrixCostsWhatTheScalarModelCosts) {
+  ProgramResult const blocks = RunExample("production_matrix");
+  EXPECT_EQ(blocks.exitCode, 0) << blocks.errors;
+  EXPECT_EQ(TotalCost(blocks), TotalCost(RunExample("production_planning")));
+}
+
+TEST(Documentation, PortfolioIsReadBackFromItsFile) {
+  ProgramResult const result = RunExample("portfolio " + testing::TempDir() + "portfolio.cbf");
+  EXPECT_EQ(result.exitCode, 0) << result.errors;
+  EXPECT_THAT(result.output, HasSubstr("read back: 4 columns, 1 rows, 1 affine cones\n"));
+  EXPECT_THAT(result.output, HasSubstr("the cone has type 1 and 5 rows, the first of them is 0.12\n"));
+}
+
+TEST(Documentation, MaxCutIsReadBackFromItsFile) {
+  ProgramResult const result = RunExample("max_cut " + testing::TempDir() + "max_cut.cbf");
+  EXPECT_EQ(result.exitCode, 0) << result.errors;
+  EXPECT_THAT(result.output, HasSubstr("read back: 1 matrix variables, 5 semidefinite rows\n"));
+}
+
 }  // namespace
