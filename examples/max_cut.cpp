@@ -8,6 +8,7 @@
 //     max_cut FILE
 //
 // FILE ends in .cbf. No engine of this version solves semidefinite models; a solver that reads the format does.
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <utility>
