@@ -2,7 +2,6 @@
 #include "model/callback_proxy.hpp"
 
 #include <algorithm>
-#include <string>
 #include <utility>
 
 namespace Vorq {
