@@ -323,7 +323,7 @@ class CbfWriter {
     WriteMatrices("FCOORD", psdEntries_, true, true);
     if (!terms_.empty()) {
       Line("ACOORD\n", terms_.size());
-      for (Term const& term : terms_) Line(term.row, " ", term.col, " ", NumberText(term.value));
+      for (Term const& term : terms_) Line(term.row, " ", term.col, " ", CoefficientText(term.value));
       Line();
     }
     WriteValues("BCOORD", constants_);
@@ -347,7 +347,7 @@ class CbfWriter {
     for (auto const& [place, value] : entries) {
       std::string const owner = withOwner ? Text(place.owner, " ") : "";
       std::string const member = withMember ? Text(place.member, " ") : "";
-      Line(owner, member, place.row, " ", place.col, " ", NumberText(value));
+      Line(owner, member, place.row, " ", place.col, " ", CoefficientText(value));
     }
     Line();
   }

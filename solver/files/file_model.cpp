@@ -50,6 +50,11 @@ std::string NumberText(double value) {
   return ToText(std::clamp(value, -kInfinity, kInfinity));
 }
 
+std::string CoefficientText(double value) {
+  if (std::abs(value) >= kInfinity) Refuse("The coefficient ", value, " is too large for a file");
+  return NumberText(value);
+}
+
 void RefuseConicKinds(ProblemData const& data, char const* format) {
   std::pair<bool, char const*> const kinds[] = {
       {!data.cones.empty(), "cones"},

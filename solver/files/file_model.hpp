@@ -28,6 +28,9 @@ std::vector<QuadTerm> MergedTerms(std::vector<QuadTerm> const& terms);
 // As short as it can be and still read back the same. Fails with VORQ_INVALID for a value that is not a number.
 std::string NumberText(double value);
 
+// As NumberText, but also fails for what a reader would take as infinite, such as a sum of terms that are just finite.
+std::string CoefficientText(double value);
+
 // Fails with VORQ_INVALID where the problem has kinds of items that `format` cannot hold.
 void RefuseConicKinds(ProblemData const& data, char const* format);
 

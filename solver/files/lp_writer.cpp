@@ -84,7 +84,7 @@ class LpWriter {
 
   // --------------------------------------------------------------- expressions
   static std::string Signed(double value) {
-    return value < 0.0 ? Text("- ", NumberText(-value)) : Text("+ ", NumberText(value));
+    return value < 0.0 ? Text("- ", CoefficientText(-value)) : Text("+ ", CoefficientText(value));
   }
 
   void LinearPart(std::vector<LinearTerm> const& terms) {

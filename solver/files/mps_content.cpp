@@ -111,10 +111,11 @@ class Assembly {
     MpsRow const& row = content_.rows[i];
     auto const view = byRow_.Row(i);
     rows.matrix.AppendRow(view.indices, view.values);
+    // A side plus its range may lie beyond infinity.
     auto const [lower, upper] = BoundsOf(row);
     rows.names.Set(rows.Count(), row.name);
-    rows.lower.push_back(lower);
-    rows.upper.push_back(upper);
+    rows.lower.push_back(std::clamp(lower, -kInfinity, kInfinity));
+    rows.upper.push_back(std::clamp(upper, -kInfinity, kInfinity));
   }
 
   void AddQuadConstraint(std::size_t i) {
@@ -180,6 +181,8 @@ class Assembly {
     }
     QuadTerm const term{std::min(entry.first, entry.second), std::max(entry.first, entry.second),
                         diagonal ? section.scale * entry.value : 2.0 * section.scale * entry.value};
+    if (std::abs(term.value) >= kInfinity)
+      RefuseText(source_, entry.line, "the entry of ", Pair(entry), " is too large");
     TermsOf(entry.constraint).push_back(term);
   }
 

@@ -93,12 +93,15 @@ class MpsWriter {
   }
 
   // "    first     second    value"
-  void Triple(std::string_view first, std::string_view second, double value) {
+  void Triple(std::string_view first, std::string_view second, std::string_view value) {
     Append("    ");
     Pad(first, 8);
     Append("  ");
     Pad(second, 8);
     Line("  ", value);
+  }
+  void Triple(std::string_view first, std::string_view second, double value) {
+    Triple(first, second, CoefficientText(value));
   }
 
   // ------------------------------------------------------------ rows of all kinds
@@ -194,7 +197,7 @@ class MpsWriter {
     // An entry of the objective is minus its constant.
     if (data_.objective.constant != 0.0) Triple("RHS", names_.objective, -data_.objective.constant);
     for (WriterRow const& row : rows_) {
-      if (row.form.rhs != 0.0) Triple("RHS", *row.name, row.form.rhs);
+      if (row.form.rhs != 0.0) Triple("RHS", *row.name, NumberText(row.form.rhs));
     }
   }
 
@@ -203,7 +206,7 @@ class MpsWriter {
     if (std::none_of(rows_.begin(), rows_.end(), ranged)) return;
     Line("RANGES");
     for (WriterRow const& row : rows_) {
-      if (ranged(row)) Triple("RNG", *row.name, row.form.range);
+      if (ranged(row)) Triple("RNG", *row.name, NumberText(row.form.range));
     }
   }
 

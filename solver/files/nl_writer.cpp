@@ -218,7 +218,7 @@ class NlWriter {
     if (term.value == -1.0) {
       Line("o16");
     } else if (term.value != 1.0) {
-      Line("o2\nn", NumberText(term.value));
+      Line("o2\nn", CoefficientText(term.value));
     }
     if (term.row == term.col) {
       Line("o5\nv", term.row, "\nn2");
@@ -262,7 +262,7 @@ class NlWriter {
   void WriteLinear(std::string const& title, std::vector<LinearTerm> const& terms) {
     if (terms.empty()) return;
     Line(title, " ", terms.size());
-    for (LinearTerm const& term : terms) Line(term.col, " ", NumberText(term.value));
+    for (LinearTerm const& term : terms) Line(term.col, " ", CoefficientText(term.value));
   }
 
   void TellOfChanges() {

@@ -8,6 +8,7 @@
 #include "solver/files/lp_writer.hpp"
 #include "solver/files/mps_reader.hpp"
 #include "solver/files/mps_writer.hpp"
+#include "solver/files/nl_writer.hpp"
 #include "solver/problem/consistency.hpp"
 #include "tests/solver/files/describe.hpp"
 #include "tests/solver/files/sample_models.hpp"
@@ -49,6 +50,36 @@ INSTANTIATE_TEST_SUITE_P(Formats, RandomModels,
                                          Format{"cbf", kConic, WriteCbf, ReadCbf},
                                          Format{"bin", kAll, WriteBinary, ReadBinary}),
                          [](auto const& format) { return std::string(format.param.name); });
+
+// Sums of terms that are just finite read as infinite: no writer may put them down.
+TEST(HugeCoefficients, AreRefusedByWritersAndReaders) {
+  constexpr double kHuge = 9e29;
+  ProblemData data = RandomModel(1, {}).Make();
+  data.quadConstraints.push_back({{}, {{0, 0, kHuge}, {0, 0, kHuge}}, 'L', 1.0});
+  for (auto const write : {WriteMps, WriteLp, WriteNl}) {
+    EXPECT_EQ(FailureOf([&] { write(data); }), "The coefficient 1.8e+30 is too large for a file");
+  }
+  EXPECT_EQ(FailureOf([] {
+              ReadLp({"m.lp", "min 9e29 x + 9e29 x\nend\n"});
+            }),
+            "m.lp:1: a coefficient of the objective is out of range");
+  EXPECT_EQ(FailureOf([] {
+              ReadLp({"m.lp", "min x\nst\n c: 2e30 x <= 1\nend\n"});
+            }),
+            "m.lp:3: a coefficient of constraint 'c' is out of range");
+  EXPECT_EQ(FailureOf([] {
+              ReadLp({"m.lp", "min x\nst\n q: [ x^2 ] <= inf\nend\n"});
+            }),
+            "m.lp:3: a quadratic constraint with an infinite right-hand side");
+  EXPECT_EQ(FailureOf([] {
+              ReadLp({"m.lp", "min x\nst\n x = 1 -> x <= inf\nbinary\nx\nend\n"});
+            }),
+            "m.lp:3: an indicator with an infinite right-hand side");
+  EXPECT_EQ(FailureOf([] {
+              ReadMps({"m.mps", "ROWS\n N o\n L q\nCOLUMNS\n x o 1 q 1\nRHS\n R q inf\nQCMATRIX q\n x x 1\nENDATA\n"});
+            }),
+            "m.mps:3: quadratic constraint 'q' has an infinite right-hand side");
+}
 
 }  // namespace
 }  // namespace vorqsolver::test
