@@ -20,6 +20,8 @@ constexpr double kLeastTrialSeconds = 1.0;
 constexpr double kTrialSecondsFactor = 20.0;
 
 constexpr std::size_t kMostPoints = 500;
+constexpr double kClearly = 100.0;
+constexpr double kPointTolerance = 0.1;    // of FeasTol, as the engines work with
 constexpr double kMostRotationWork = 2e8;  // elements looked at for one point
 
 bool IsAllInteger(ProblemData const& data) {
@@ -104,10 +106,12 @@ void DeletionFilter::KeepPoint(MemberProblem const& stated, std::vector<double> 
   points_.push_back(std::move(point));
 }
 
-bool DeletionFilter::IsKnownFeasible(Members const& members) {
-  double const tolerance = parameters_.Dbl(DblParam::kFeasTol);
+// A point that violates nothing at all is within the tolerances of what was proved infeasible, and tells nothing.
+bool DeletionFilter::IsKnownFeasible(Members const& members, Members const& left) {
+  double const tolerance = kPointTolerance * parameters_.Dbl(DblParam::kFeasTol);
   return std::ranges::any_of(points_, [&](std::vector<double> const& point) {
-    return std::ranges::count(Violated(data_, members, point, tolerance), 1) == 0;
+    return std::ranges::count(Violated(data_, members, point, tolerance), 1) == 0 &&
+           std::ranges::count(Violated(data_, left, point, kClearly * tolerance), 1) > 0;
   });
 }
 
@@ -115,7 +119,7 @@ bool DeletionFilter::IsKnownFeasible(Members const& members) {
 // member: then that one is needed, too, and goes on in the same way.
 void DeletionFilter::Rotate(Members const& members, Member only) {
   if (!mayRotate_ || points_.empty()) return;
-  double const tolerance = parameters_.Dbl(DblParam::kFeasTol);
+  double const tolerance = kPointTolerance * parameters_.Dbl(DblParam::kFeasTol);
   double const work = static_cast<double>(data_.rows.matrix.ElementCount());
   if (work * static_cast<double>(data_.columns.type.size()) > kMostRotationWork) return;
   std::vector<std::vector<double>> open = {points_.back()};
@@ -149,7 +153,9 @@ void DeletionFilter::Run(Members& members) {
     Tick(members.size(), needed);
     std::size_t const end = std::min(needed + lot, members.size());
     Members fewer = Without(members, needed, end);
-    bool const wasKnown = IsKnownFeasible(fewer);
+    Members const left(members.begin() + static_cast<std::ptrdiff_t>(needed),
+                       members.begin() + static_cast<std::ptrdiff_t>(end));
+    bool const wasKnown = IsKnownFeasible(fewer, left);
     auto const verdict =
         wasKnown ? Verdict::kFeasible : Judge(fewer, std::max(kLeastTrialSeconds, kTrialSecondsFactor * longestProof_));
     if (verdict == Verdict::kInfeasible) {

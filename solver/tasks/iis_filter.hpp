@@ -38,7 +38,7 @@ class DeletionFilter {
  private:
   Verdict JudgeDiscrete(Members const& members, std::optional<double> seconds);
   void KeepPoint(MemberProblem const& stated, std::vector<double> const& values);
-  bool IsKnownFeasible(Members const& members);
+  bool IsKnownFeasible(Members const& members, Members const& left);
   void Rotate(Members const& members, Member only);
   void Tick(std::size_t left, std::size_t needed);
 

@@ -186,12 +186,8 @@ MemberProblem Statement::Build(bool lazyAsRows) {
   return std::move(stated_);
 }
 
-bool IsOutside(double value, double lower, double upper, double size, double tolerance) {
-  double const below = lower > -kInfinity ? lower - value : 0.0;
-  double const above = upper < kInfinity ? value - upper : 0.0;
-  double const bound = below > above ? lower : upper;
-  return std::max(below, above) >
-         tolerance * std::max({1.0, size, std::abs(bound) < kInfinity ? std::abs(bound) : 0.0});
+bool IsOutside(double value, double lower, double upper, double tolerance) {
+  return (lower > -kInfinity && value < lower - tolerance) || (upper < kInfinity && value > upper + tolerance);
 }
 
 // For the kinds that are no single inequality.
@@ -200,13 +196,9 @@ bool ViolatesDiscrete(ProblemData const& data, Member member, std::span<double c
     auto const& indicator = data.indicators[static_cast<std::size_t>(member.index)];
     if ((values[indicator.binCol] > 0.5) != (indicator.binVal != 0)) return false;
     double activity = 0.0;
-    double size = 0.0;
-    for (auto const& term : indicator.terms) {
-      activity += term.value * values[term.col];
-      size = std::max(size, std::abs(term.value * values[term.col]));
-    }
+    for (auto const& term : indicator.terms) activity += term.value * values[term.col];
     auto const [lower, upper] = SideOf(indicator);
-    return IsOutside(activity, lower, upper, size, tolerance);
+    return IsOutside(activity, lower, upper, tolerance);
   }
   auto const& sos = data.soss[static_cast<std::size_t>(member.index)];
   auto const cols = OrderedMembers(sos);
@@ -302,20 +294,16 @@ std::vector<char> Violated(ProblemData const& data, Members const& members, std:
     bool const isRow = kind == MemberKind::kRowLower || kind == MemberKind::kRowUpper;
     if (isRow) {
       double activity = 0.0;
-      double size = 0.0;
       auto const row = data.rows.matrix.Row(index);
-      for (std::size_t i = 0; i < row.indices.size(); ++i) {
-        activity += row.values[i] * values[row.indices[i]];
-        size = std::max(size, std::abs(row.values[i] * values[row.indices[i]]));
-      }
+      for (std::size_t i = 0; i < row.indices.size(); ++i) activity += row.values[i] * values[row.indices[i]];
       bool const isLower = kind == MemberKind::kRowLower;
       violated[k] = IsOutside(activity, isLower ? data.rows.lower[index] : -kInfinity,
-                              isLower ? kInfinity : data.rows.upper[index], size, tolerance);
+                              isLower ? kInfinity : data.rows.upper[index], tolerance);
     } else if (kind == MemberKind::kColLower || kind == MemberKind::kColUpper) {
       bool const isLower = kind == MemberKind::kColLower;
       bool const mayBeZero = IsSemicontinuous(data.columns.type[index]) && std::abs(values[index]) <= tolerance;
       violated[k] = !mayBeZero && IsOutside(values[index], isLower ? data.columns.lower[index] : -kInfinity,
-                                            isLower ? kInfinity : data.columns.upper[index], 0.0, tolerance);
+                                            isLower ? kInfinity : data.columns.upper[index], tolerance);
     } else {
       violated[k] = ViolatesDiscrete(data, members[k], values, tolerance);
     }

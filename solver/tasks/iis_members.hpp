@@ -48,7 +48,8 @@ MemberProblem StateMembers(ProblemData const& data, Members const& members, bool
 // The members that the Farkas ray of a stated problem rests upon; together they are infeasible, too.
 Members MembersOfRay(ProblemData const& data, MemberProblem const& stated, std::span<double const> ray);
 
-// One flag for each member: whether the point violates it.
+// One flag for each member: whether the point violates it by more than the tolerance, which is absolute. Relative to
+// the size of a row's terms, points would pass that a solve does not accept.
 std::vector<char> Violated(ProblemData const& data, Members const& members, std::span<double const> values,
                            double tolerance);
 
