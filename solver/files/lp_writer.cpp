@@ -2,6 +2,7 @@
 #include "solver/files/lp_writer.hpp"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -202,6 +203,9 @@ class LpWriter {
   }
 
   void WriteRow(std::string const& name, SparseMatrix::View row, double lower, double upper) {
+    if (lower == upper && std::abs(lower) >= kInfinity) {
+      Refuse("An LP file cannot hold row '", name, "', which has no finite value within its bounds");
+    }
     Label(name);
     bool const ranged = lower != upper && lower > -kInfinity && upper < kInfinity;
     if (ranged) Term(Text(NumberText(lower), " <="));

@@ -81,5 +81,11 @@ TEST(HugeCoefficients, AreRefusedByWritersAndReaders) {
             "m.mps:3: quadratic constraint 'q' has an infinite right-hand side");
 }
 
+TEST(RowsWithoutFiniteValue, AreRefusedByTheLpWriter) {
+  auto const data = ReadMps({"m.mps", "ROWS\n N o\n L c\nCOLUMNS\n x o 1 c 1\nRHS\n R c -inf\nENDATA\n"}).data;
+  EXPECT_EQ(FailureOf([&] { WriteLp(data); }),
+            "An LP file cannot hold row 'c', which has no finite value within its bounds");
+}
+
 }  // namespace
 }  // namespace vorqsolver::test
