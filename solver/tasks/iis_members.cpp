@@ -212,6 +212,35 @@ bool ViolatesDiscrete(ProblemData const& data, Member member, std::span<double c
   return first >= 0 && last - first >= sos.type;
 }
 
+bool ViolatesRow(Rows const& rows, Member member, std::span<double const> values, double tolerance) {
+  double activity = 0.0;
+  auto const row = rows.matrix.Row(member.index);
+  for (std::size_t k = 0; k < row.indices.size(); ++k) activity += row.values[k] * values[row.indices[k]];
+  if (member.kind == MemberKind::kRowLower) {
+    return IsOutside(activity, rows.lower[member.index], kInfinity, tolerance);
+  }
+  return IsOutside(activity, -kInfinity, rows.upper[member.index], tolerance);
+}
+
+bool ViolatesBound(Columns const& columns, Member member, std::span<double const> values, double tolerance) {
+  double const value = values[member.index];
+  if (IsSemicontinuous(columns.type[member.index]) && std::abs(value) <= tolerance) return false;
+  if (member.kind == MemberKind::kColLower) {
+    return IsOutside(value, columns.lower[member.index], kInfinity, tolerance);
+  }
+  return IsOutside(value, -kInfinity, columns.upper[member.index], tolerance);
+}
+
+bool Violates(ProblemData const& data, Member member, std::span<double const> values, double tolerance) {
+  switch (member.kind) {
+    case MemberKind::kRowLower:
+    case MemberKind::kRowUpper: return ViolatesRow(data.rows, member, values, tolerance);
+    case MemberKind::kColLower:
+    case MemberKind::kColUpper: return ViolatesBound(data.columns, member, values, tolerance);
+    default: return ViolatesDiscrete(data, member, values, tolerance);
+  }
+}
+
 }  // namespace
 
 double WithoutLower(char type, double lower) {
@@ -288,26 +317,9 @@ Members MembersOfRay(ProblemData const& data, MemberProblem const& stated, std::
 
 std::vector<char> Violated(ProblemData const& data, Members const& members, std::span<double const> values,
                            double tolerance) {
-  std::vector<char> violated(members.size(), 0);
-  for (std::size_t k = 0; k < members.size(); ++k) {
-    auto const [kind, index] = members[k];
-    bool const isRow = kind == MemberKind::kRowLower || kind == MemberKind::kRowUpper;
-    if (isRow) {
-      double activity = 0.0;
-      auto const row = data.rows.matrix.Row(index);
-      for (std::size_t i = 0; i < row.indices.size(); ++i) activity += row.values[i] * values[row.indices[i]];
-      bool const isLower = kind == MemberKind::kRowLower;
-      violated[k] = IsOutside(activity, isLower ? data.rows.lower[index] : -kInfinity,
-                              isLower ? kInfinity : data.rows.upper[index], tolerance);
-    } else if (kind == MemberKind::kColLower || kind == MemberKind::kColUpper) {
-      bool const isLower = kind == MemberKind::kColLower;
-      bool const mayBeZero = IsSemicontinuous(data.columns.type[index]) && std::abs(values[index]) <= tolerance;
-      violated[k] = !mayBeZero && IsOutside(values[index], isLower ? data.columns.lower[index] : -kInfinity,
-                                            isLower ? kInfinity : data.columns.upper[index], tolerance);
-    } else {
-      violated[k] = ViolatesDiscrete(data, members[k], values, tolerance);
-    }
-  }
+  std::vector<char> violated;
+  violated.reserve(members.size());
+  for (auto const& member : members) violated.push_back(Violates(data, member, values, tolerance) ? 1 : 0);
   return violated;
 }
 

@@ -230,6 +230,7 @@ void Tuner::TryInThreads(std::vector<Candidate>& candidates, int threads) {
     changed.notify_one();
   };
   std::vector<std::jthread> workers;
+  workers.reserve(static_cast<std::size_t>(threads));
   for (int k = 0; k < threads; ++k) workers.emplace_back(work);
   std::unique_lock lock(mutex);
   for (std::size_t settled = 0; working > 0 || settled < finished.size();) {
