@@ -381,8 +381,10 @@ void CbcSolver::Search(OsiClpSolverInterface& reduced) {
 }
 
 void CbcSolver::Conclude(CbcModel const& model) {
-  progress_.Update(result_.nodes, 0, model.getBestPossibleObjValue());
   auto const stopped = task_.stop.Reason();
+  // Stopped at the root, the engine gives the value of its solution for a bound.
+  bool const hasBound = stopped == SolveStatus::kUnstarted || result_.nodes > 0;
+  progress_.Update(result_.nodes, 0, hasBound ? model.getBestPossibleObjValue() : progress_.Bound());
   if (stopped != SolveStatus::kUnstarted) {
     result_.mipStatus = stopped;
   } else if (model.status() == kFinished || model.secondaryStatus() == kGapReached) {
