@@ -1,6 +1,7 @@
 // From the solver library to the caller's callback object, and the export that makes a proxy.
 #include "handles/callback_proxy.hpp"
 
+#include "handles/set_callback.hpp"
 #include "model/model.hpp"
 #include "vorqmodel/exports.h"
 

@@ -1,20 +1,10 @@
-// VorqCallbackProxy: the handle on a callback proxy, and the road from the solver library to the caller's object.
+// VorqCallbackProxy: the handle on a callback proxy.
 #pragma once
 
 #include "handles/builder_arrays.hpp"
 #include "handles/matrix_builders.hpp"
 #include "model/callback_proxy.hpp"
 #include "vorqmodel/callback.h"
-
-namespace Vorq {
-
-class Model;
-
-// Null takes the callback away. An object without a proxy, or one that is inside of a callback of another model, is
-// refused with code 3 and changes nothing.
-void SetCallback(Model& model, ICallback* callback, int contextMask);
-
-}  // namespace Vorq
 
 class VorqCallbackProxy final : public Vorq::Handle<VorqCallbackProxy, Vorq::ICallbackProxy, Vorq::CallbackProxy> {
  public:

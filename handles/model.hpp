@@ -2,8 +2,9 @@
 // resetting, callbacks and the status are here.
 #pragma once
 
-#include "handles/callback_proxy.hpp"
+#include "handles/matrix_items.hpp"
 #include "handles/model_solving.hpp"
+#include "handles/set_callback.hpp"
 
 class VorqModel final : public VorqModelSolving {
  public:
