@@ -49,7 +49,7 @@ class VorqAffineConeBuilder final
     if (exprs != nullptr) Impl().Set(Vorq::Unwrap(exprs), type);
   }
   void Set(std::vector<Vorq::IVar*> vars, int type) override {
-    if (!Vorq::HasNull(vars)) Impl().Set(Vorq::CellsOf(Vorq::CopiesOf<Vorq::Var>(vars)), type);
+    if (!Vorq::HasNull(vars)) Impl().Set(Vorq::CellList(Vorq::CopiesOf<Vorq::Var>(vars)), type);
   }
 
  private:

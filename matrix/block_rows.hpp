@@ -19,7 +19,7 @@ MatrixObject<Cell, 1> RowOf(MatrixObject<Cell, 2> const& block, std::uint64_t ro
 
 // Copies of the cells in flat order.
 template <class Cell, int N>
-std::vector<Cell> CellsOf(MatrixObject<Cell, N> const& block) {
+std::vector<Cell> CellList(MatrixObject<Cell, N> const& block) {
   std::vector<Cell> cells;
   cells.reserve(block.GetSize());
   for (std::uint64_t i = 0; i < block.GetSize(); ++i) cells.push_back(block.Get(i));

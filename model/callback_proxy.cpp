@@ -74,6 +74,7 @@ bool CallbackProxy::Attach(SharedPtr<ProbHandle> const& problem, int columnCount
     problem_ = problem;
     data_ = nullptr;  // may go with the problem from before
   }
+  solver_.store(std::this_thread::get_id());
   if (columnCount != numCols_) {
     numCols_ = columnCount;
     ForgetVectors();
@@ -88,8 +89,9 @@ void CallbackProxy::ForgetVectors() {
 
 void CallbackProxy::Interrupt() {
   int const code = VORQ_Interrupt(Prob());
-  std::unique_lock const lock(running_, std::try_to_lock);
-  if (lock.owns_lock()) Record(code, "Fail to call interrupt in callback");
+  std::thread::id const solver = solver_.load();
+  bool const isAlone = solver == std::thread::id() || solver == std::this_thread::get_id();
+  if (isAlone) Record(code, "Fail to call interrupt in callback");
 }
 
 // ---- Cuts and lazy constraints

@@ -12,8 +12,9 @@
 #pragma once
 
 #include <array>
+#include <atomic>
 #include <cstddef>
-#include <mutex>
+#include <thread>
 #include <vector>
 
 #include "frame/shared_ptr.hpp"
@@ -41,7 +42,6 @@ class CallbackProxy {
   // callbacks to come, which is meant. An exception out of `body` passes through.
   template <class Body>
   void Run(VORQ_CallbackData* data, int context, Body body) {
-    std::lock_guard const lock(running_);
     Call const call(*this);
     data_ = data;  // kept when the callback is over, but dead then
     context_ = context;
@@ -50,7 +50,7 @@ class CallbackProxy {
   }
 
   int Context() const { return context_; }
-  // From a thread other than the callback's, the status is left to the callback.
+  // From a thread other than the one that solves, the status is left alone.
   void Interrupt();
 
   // Adding cuts and lazy constraints. The expressions that are given lose duplicate, zero and removed terms.
@@ -123,8 +123,8 @@ class CallbackProxy {
   std::vector<double> solution_;
   TermMerger merger_;
   bool isRunning_ = false;
-  // Held while a callback runs, which may itself interrupt.
-  std::recursive_mutex running_;
+  // The thread that attached last: it solves, and runs the callbacks.
+  std::atomic<std::thread::id> solver_;
 };
 
 }  // namespace Vorq

@@ -64,7 +64,7 @@ Cone Model::AddCone(VarArray const& vars, int type) {
 }
 
 Cone Model::AddCone(MVar<1> const& vars, int type) {
-  return AddCone(CellsOf(vars), type);
+  return AddCone(CellList(vars), type);
 }
 
 ConeArray Model::AddCones(MVar<2> const& vars, int type) {
@@ -106,7 +106,7 @@ ExpCone Model::AddExpCone(VarArray const& vars, int type) {
 }
 
 ExpCone Model::AddExpCone(MVar<1> const& vars, int type) {
-  return AddExpCone(CellsOf(vars), type);
+  return AddExpCone(CellList(vars), type);
 }
 
 ExpConeArray Model::AddExpCones(MVar<2> const& vars, int type) {

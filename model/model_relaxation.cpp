@@ -67,7 +67,7 @@ void Model::FeasRelax(MVar<1> const& vars, double const* colLowPen, double const
                       double const* rowBndPen, double const* rowUppPen) {
   double infinite = 0.0;
   if (!BeginFeasRelax(vars.GetSize(), cons.GetSize(), infinite)) return;
-  RelaxAll(CellsOf(vars), CellsOf(cons), {colLowPen, colUppPen, rowBndPen, rowUppPen}, infinite);
+  RelaxAll(CellList(vars), CellList(cons), {colLowPen, colUppPen, rowBndPen, rowUppPen}, infinite);
 }
 
 void Model::FeasRelax(MVar<1> const& vars, NdArray<double, 1> const& colLowPen, NdArray<double, 1> const& colUppPen,
@@ -90,7 +90,7 @@ void Model::FeasRelax(MVar<1> const& vars, NdArray<double, 1> const& colLowPen, 
       take(colUppPen, vars.GetSize(), "colUppPen has invalid size", colUpp) &&
       take(rowBndPen, cons.GetSize(), "rowBndPen has invalid size", rowBnd) &&
       take(rowUppPen, cons.GetSize(), "rowUppPen has invalid size", rowUpp)) {
-    RelaxAll(CellsOf(vars), CellsOf(cons),
+    RelaxAll(CellList(vars), CellList(cons),
              {DataOrNull(colLow), DataOrNull(colUpp), DataOrNull(rowBnd), DataOrNull(rowUpp)}, infinite);
   }
 }
