@@ -34,7 +34,7 @@ TEST(Documentation, SolvingTourPrintsValueAndDuals) {
 TEST(Documentation, InfeasibilityTourNamesWhatContradictsItself) {
   ProgramResult const result = RunExample("infeasibility_tour");
   EXPECT_EQ(result.exitCode, 0) << result.errors;
-  EXPECT_THAT(result.output, HasSubstr("2 rows and 1 columns contradict each other\n"));
+  EXPECT_THAT(result.output, HasSubstr("3 rows and 0 columns contradict each other\n"));
   EXPECT_THAT(result.output, HasSubstr("  weight is at least 10\n"));
   EXPECT_THAT(result.output, HasSubstr("for 1.636 of penalties: 7.091 oats, 1.273 nuts\n"));
   EXPECT_THAT(result.output, HasSubstr("best 12, "));
