@@ -32,8 +32,8 @@ int main() {
                     2.0, 0.0, 3.0,  //
                     2.0, 1.0, 3.0};
   double limits[] = {4.0, 5.0, 7.0};
-  auto a = Own(CreateNdArrayDbl2WithData(hours, 3, 3));
-  auto b = Own(CreateNdArrayDbl1WithData(limits, 3));
+  auto a = Own(CreateNdArrayDbl2WithExData(hours, 3, 3));
+  auto b = Own(CreateNdArrayDbl1WithExData(limits, 3));
 
   // The product keeps rows of A and the block x; no term is made before the rows go to the solver, in one call.
   auto use = Own(helper->MatMult(a.get(), x.get()));
@@ -42,7 +42,7 @@ int main() {
   auto machines = Own(model->AddMConstr(builder.get(), "machine"));
 
   double profits[] = {3.0, 2.0, 4.0};
-  auto p = Own(CreateNdArrayDbl1WithData(profits, 3));
+  auto p = Own(CreateNdArrayDbl1WithExData(profits, 3));
   auto profit = Own(helper->MatMult(p.get(), x.get()));
   auto total = Own(profit->Get(0));
   constexpr int kMaximise = -1;

@@ -76,7 +76,7 @@ int main() {
 
   auto nodeShape = Own(factory->CreateNDim(kNodes));
   auto balance = Own(factory->CreateMConstrBuilder(nodeShape.get()));
-  auto supply = Own(CreateNdArrayDbl1WithData(supplies, kNodes));
+  auto supply = Own(CreateNdArrayDbl1WithExData(supplies, kNodes));
   balance->Set(NetOutflow(*flow).get(), 'E', supply.get());
   auto nodes = Own(model->AddMConstr(balance.get(), "node"));
 

@@ -38,14 +38,14 @@ void StatePortfolio(Vorq::IModel& model) {
   Own(model.AddMConstr(budget.get(), "budget"));
 
   // limit >= |F w|: the rows of the cone are the limit and, below it, F w.
-  auto f = Own(CreateNdArrayDbl2WithData(factor, kAssets, kAssets));
+  auto f = Own(CreateNdArrayDbl2WithExData(factor, kAssets, kAssets));
   auto deviation = Own(helper->MatMult(f.get(), weights.get()));
-  auto limit = Own(CreateNdArrayDbl1WithData(riskLimit, 1));
+  auto limit = Own(CreateNdArrayDbl1WithExData(riskLimit, 1));
   auto rows = Own(helper->Concat(limit.get(), deviation.get(), 0));
   constexpr int kQuadraticCone = 1;
   Own(model.AddAffineCone(rows.get(), kQuadraticCone, "risk"));
 
-  auto m = Own(CreateNdArrayDbl1WithData(expectedReturn, kAssets));
+  auto m = Own(CreateNdArrayDbl1WithExData(expectedReturn, kAssets));
   auto expected = Own(helper->MatMult(m.get(), weights.get()));
   constexpr int kMaximise = -1;
   model.SetObjective(Own(expected->Get(0)).get(), kMaximise);

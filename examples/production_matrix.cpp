@@ -65,11 +65,11 @@ class Planner {
     Own(allButLast->Full());
     Own(allButLast->Slice(0, -1, 1, 0));
     auto kept = Own(plan_.stock->View(allButLast.get()));
-    auto before = Own(CreateNdArrayDbl2WithData(initialStock, kProducts, 1));
+    auto before = Own(CreateNdArrayDbl2WithExData(initialStock, kProducts, 1));
     auto found = Own(helper_->Concat(before.get(), kept.get(), 1));
     auto available = Own(broadcast_->Add(found.get(), plan_.make.get()));
     auto sold = Own(broadcast_->Sub(available.get(), plan_.stock.get()));
-    auto wanted = Own(CreateNdArrayDbl2WithData(demand, kProducts, kMonths));
+    auto wanted = Own(CreateNdArrayDbl2WithExData(demand, kProducts, kMonths));
     auto builder = Own(factory_->CreateMConstrBuilder(blocks_.get()));
     builder->Set(sold.get(), 'E', wanted.get());
     Own(model_.AddMConstr(builder.get(), "balance"));
@@ -86,7 +86,7 @@ class Planner {
         most[p * kMonths + t] = std::min(stillToSell, lineLimit);
       }
     }
-    auto limits = Own(CreateNdArrayDbl2WithData(most.data(), kProducts, kMonths));
+    auto limits = Own(CreateNdArrayDbl2WithExData(most.data(), kProducts, kMonths));
     auto allowed = Own(broadcast_->Mul(limits.get(), plan_.setup.get()));
     auto excess = Own(broadcast_->Sub(plan_.make.get(), allowed.get()));
     auto builder = Own(factory_->CreateMConstrBuilder(blocks_.get()));
@@ -135,7 +135,7 @@ class Planner {
  private:
   // A number a product times a block: one expression a month.
   Vorq::IMLinExpr<1>* Product(double* numbers, Vorq::IMVar<2>& block) {
-    return helper_->MatMult(Own(CreateNdArrayDbl1WithData(numbers, kProducts)).get(), &block);
+    return helper_->MatMult(Own(CreateNdArrayDbl1WithExData(numbers, kProducts)).get(), &block);
   }
 
   Vorq::IModel& model_;

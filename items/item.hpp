@@ -23,8 +23,8 @@ class Item {
   bool HasRecord() const { return static_cast<bool>(record_); }
   // Only with a record.
   ItemRec& Record() const { return *record_; }
-  int Idx() const { return record_->idx; }
-  bool IsLive() const { return record_->idx >= 0; }
+  int Idx() const { return record_ ? record_->idx : kInvalidIndex; }
+  bool IsLive() const { return Idx() >= 0; }
 
   // Marks a live item as removed, for the model's next flush to carry out. Any other item stays as it is.
   void MarkRemoved();

@@ -456,9 +456,7 @@ class Model {
                              Dimensions const*... dimensions) {
     std::vector<Item> added;
     if (!Record(code, text)) return added;
-    std::vector<Item>& items = core_->Table<Item>().items;
-    std::size_t const needed = items.size() + names.size();
-    if (needed > items.capacity()) items.reserve(std::max(needed, 2 * items.capacity()));
+    ReserveMore(core_->Table<Item>().items, names.size());
     added.reserve(names.size());
     for (std::size_t i = 0; i < names.size(); ++i) added.push_back(Append<Item>(names[i], dimensions[i]...));
     return added;

@@ -10,7 +10,8 @@
 //   Result<K>* MatMult(Left<L>* left, Right<R>* right)
 //       The product for L and R of 1 or 2: a vector on the left is a row, a vector on the right a column, and the
 //       result loses its axis. Numbers times variables keep the two vectors and make no terms. An IVarArray counts as
-//       a vector of variables.
+//       a vector of variables. Beware of one on the left of an INdArray<int>: the memory of the ints is then read as
+//       long long (rank 1) or double numbers (rank 2). Use a block of variables or wider numbers there.
 //   Kind<N - 1>* Diagonal(Kind<N>* object, int offset, int axis1, int axis2)
 //       The cells whose coordinates on the two axes, the larger less the smaller, differ by `offset`: they become the
 //       last axis. Shares the cells. Negative axes are refused.

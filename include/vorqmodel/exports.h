@@ -73,6 +73,9 @@ VORQMODEL_API Vorq::ISymMatrixArray* CreateSymMatrixArray();
 VORQMODEL_API Vorq::IMFactory* CreateMFactory();
 VORQMODEL_API Vorq::IMHelper* CreateMHelper();
 VORQMODEL_API Vorq::IBroadCastHelper* CreateBroadCastHelper();
+// Arrays over a caller's elements, d0 times d1 times d2 of them in row-major order. The array takes over elements given
+// by WithData, which must come from new[], and deletes them in the end; it borrows those given by WithExData, which
+// must outlive it and all that shares its elements.
 VORQMODEL_API Vorq::INdArray<double, 1>* CreateNdArrayDbl1WithData(double* data, int d0);
 VORQMODEL_API Vorq::INdArray<double, 2>* CreateNdArrayDbl2WithData(double* data, int d0, int d1);
 VORQMODEL_API Vorq::INdArray<double, 3>* CreateNdArrayDbl3WithData(double* data, int d0, int d1, int d2);
@@ -91,6 +94,7 @@ VORQMODEL_API Vorq::INdArray<int, 3>* CreateNdArrayInt3WithExData(int* data, int
 VORQMODEL_API Vorq::INdArray<long long, 1>* CreateNdArrayInt64t1WithExData(long long* data, int d0);
 VORQMODEL_API Vorq::INdArray<long long, 2>* CreateNdArrayInt64t2WithExData(long long* data, int d0, int d1);
 VORQMODEL_API Vorq::INdArray<long long, 3>* CreateNdArrayInt64t3WithExData(long long* data, int d0, int d1, int d2);
+
 // The products of a block with a sparse matrix A in compressed columns (Csc) or compressed rows (Csr). The name tells
 // the order of the factors: MVar1MatMultCsc is x' A with the row vector x, CscMatMultMVar1 is A x with the column
 // vector x, MVar1MatMultCscMVar1 is x' A y.

@@ -35,10 +35,6 @@ std::string PathOf(char const* path) {
   return path;
 }
 
-[[noreturn]] void RefuseFormat(char const* path, char const* verb, char const* format) {
-  throw Failure(VORQ_INTERNAL, Text("'", PathOf(path), "': this version does not ", verb, " ", format));
-}
-
 // What a solve in another thread reads must stay.
 void RefuseWhileSolving(Problem const& problem) {
   if (problem.solving) Refuse("Nothing can be read while the problem is being solved");
@@ -278,8 +274,9 @@ int VORQ_WriteRelax(VORQ_Prob* prob, char const* path) {
     std::string const target = PathOf(path);
     auto const& relaxed = problem.result.relaxed;
     if (!relaxed.attempted) Refuse("There is no feasibility relaxation to write");
-    if (problem.parameters.Int(IntParam::kRelaxFileType) == kBinary) RefuseFormat(path, "write", "binary files");
-    WriteModelFile(problem, target, WriteLp(RelaxationProblem(problem.data, relaxed.penalties, relaxed.mode)));
+    ProblemData const relaxation = RelaxationProblem(problem.data, relaxed.penalties, relaxed.mode);
+    bool const isBinary = problem.parameters.Int(IntParam::kRelaxFileType) == kBinary;
+    WriteModelFile(problem, target, isBinary ? WriteBinary(relaxation) : WriteLp(relaxation));
   });
 }
 int VORQ_WriteTuneParam(VORQ_Prob* prob, int index, char const* path) {

@@ -7,6 +7,7 @@
 
 #include "solver/api/arguments.hpp"
 #include "solver/api/guard.hpp"
+#include "solver/tasks/callback_session.hpp"
 #include "solver/tasks/feas_relax.hpp"
 #include "solver/tasks/iis.hpp"
 #include "solver/tasks/tune.hpp"
@@ -22,6 +23,20 @@ int Idle(VORQ_Prob* prob, Body&& body) noexcept {
     if (problem.solving) Refuse("The problem is being solved");
     body(problem);
   });
+}
+
+// An exception of the caller's callback goes on to the caller, once nothing of the solve is left.
+int SolveOrRethrow(VORQ_Prob* prob, bool relaxed) {
+  std::exception_ptr thrown;
+  int const code = Guard(prob, [&](Problem& problem) {
+    try {
+      SolveProblem(problem, relaxed);
+    } catch (CallbackException const& exception) {
+      thrown = exception.cause;
+    }
+  });
+  if (thrown) std::rethrow_exception(thrown);
+  return code;
 }
 
 // Null buffers are skipped.

@@ -12,6 +12,7 @@
 #include "solver/problem/problem_data.hpp"
 #include "solver/problem/solution.hpp"
 #include "solver/problem/tuning.hpp"
+#include "solver/tasks/callback_session.hpp"
 #include "solver/tasks/log.hpp"
 
 namespace vorqsolver {

@@ -18,6 +18,16 @@ std::string FileText(fs::path const& path) {
   return text.str();
 }
 
+// The pages that users read.
+std::vector<fs::path> Pages() {
+  fs::path const root = VORQ_SOURCE_DIR;
+  std::vector<fs::path> pages = {root / "README.md"};
+  for (auto const& entry : fs::directory_iterator(root / "docs")) {
+    if (entry.path().extension() == ".md") pages.push_back(entry.path());
+  }
+  return pages;
+}
+
 std::vector<std::string> CodePassages(std::string const& page) {
   constexpr char kOpen[] = "```cpp\n";
   std::vector<std::string> passages;
@@ -32,17 +42,12 @@ std::vector<std::string> CodePassages(std::string const& page) {
 }
 
 TEST(Documentation, PassagesOfCodeStandInExamples) {
-  fs::path const root = VORQ_SOURCE_DIR;
-  std::vector<fs::path> pages = {root / "README.md"};
-  for (auto const& entry : fs::directory_iterator(root / "docs")) {
-    if (entry.path().extension() == ".md") pages.push_back(entry.path());
-  }
   std::string programs;
-  for (auto const& entry : fs::directory_iterator(root / "examples")) {
+  for (auto const& entry : fs::directory_iterator(fs::path(VORQ_SOURCE_DIR) / "examples")) {
     if (entry.path().extension() == ".cpp") programs += FileText(entry.path());
   }
   int count = 0;
-  for (fs::path const& page : pages) {
+  for (fs::path const& page : Pages()) {
     for (std::string const& passage : CodePassages(FileText(page))) {
       ++count;
       EXPECT_NE(programs.find(passage), std::string::npos) << page << " shows code that no example holds:\n" << passage;
@@ -52,9 +57,7 @@ TEST(Documentation, PassagesOfCodeStandInExamples) {
 }
 
 TEST(Documentation, LinksBetweenPagesLeadSomewhere) {
-  fs::path const root = VORQ_SOURCE_DIR;
-  for (fs::path const& page : {root / "README.md", root / "docs/callbacks.md", root / "docs/getting-started.md",
-                               root / "docs/solving.md", root / "docs/quadratic-and-conic.md", root / "docs/tool.md"}) {
+  for (fs::path const& page : Pages()) {
     std::string const text = FileText(page);
     std::size_t at = 0;
     while ((at = text.find("](", at)) != std::string::npos) {

@@ -50,6 +50,14 @@ TEST(Documentation, ConicTourSolvesWhatCanBeSolved) {
   EXPECT_THAT(result.output, HasSubstr("6 matrices in the model, the inequality has dimension 2\n"));
 }
 
+TEST(Documentation, AffineConesReadBackAsRows) {
+  ProgramResult const result = RunExample("affine_cones");
+  EXPECT_EQ(result.exitCode, 0) << result.errors;
+  EXPECT_THAT(result.output, HasSubstr("row 0: constant 2, 0 terms\nrow 1: constant -1, 1 terms\n"));
+  EXPECT_THAT(result.output, HasSubstr("4 cones, the last affine one is shifted(1)\n0 variables are left\n"));
+  EXPECT_THAT(result.output, HasSubstr("cone of 3 rows, 3 matrices in the model\n"));
+}
+
 TEST(Documentation, ArrayTourPrintsArraysAndBlocks) {
   ProgramResult const result = RunExample("array_tour");
   EXPECT_EQ(result.exitCode, 0) << result.errors;

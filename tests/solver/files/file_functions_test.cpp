@@ -265,24 +265,8 @@ TEST_F(FileFunctions, NlFilesAreWrittenWithWarningsInTheLog) {
                                               "Warning: An NL file holds no names", "Wrote '" + Path("a.nl") + "'"}));
 }
 
-struct NamedFunction {
-  char const* line;
-  int (*call)(VORQ_Prob* prob, char const* path);
-};
-
 int WritePool(VORQ_Prob* prob, char const* path) {
   return VORQ_WritePoolSol(prob, 0, path);
-}
-
-TEST_F(FileFunctions, FormatsThatAreNotThereFailAndSaySo) {
-  NamedFunction const functions[] = {{"read SDPA files", VORQ_ReadSDPA},    {"read CBF files", VORQ_ReadCbf},
-                                     {"read binary files", VORQ_ReadBin},   {"write CBF files", VORQ_WriteCbf},
-                                     {"write binary files", VORQ_WriteBin}, {"write NL files", VORQ_WriteNL}};
-  for (auto const& [line, call] : functions) {
-    EXPECT_EQ(call(prob_, Path("x").c_str()), VORQ_INTERNAL);
-    EXPECT_EQ(lines_.back(), "Error: '" + Path("x") + "': this version does not " + line);
-  }
-  EXPECT_FALSE(fs::exists(Path("x")));
 }
 
 TEST_F(FileFunctions, NullAndEmptyArgumentsAreRefused) {

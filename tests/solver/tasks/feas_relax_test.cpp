@@ -145,10 +145,14 @@ End
 )");
 }
 
-TEST_F(TwoRows, BinaryFileIsRefused) {
+TEST_F(TwoRows, FileIsBinaryOnRequest) {
   ASSERT_EQ(Relax(false, true), VORQ_OK);
   Set("RelaxFileType", 1);
-  EXPECT_EQ(VORQ_WriteRelax(prob, path_.c_str()), VORQ_INTERNAL);
+  ASSERT_EQ(VORQ_WriteRelax(prob, path_.c_str()), VORQ_OK);
+  ASSERT_EQ(VORQ_ReadBin(prob, path_.c_str()), VORQ_OK);
+  EXPECT_EQ(Int("Cols"), 3);
+  EXPECT_EQ(Solve(), kOptimal);
+  EXPECT_NEAR(Dbl("LpObjval"), 6.0, 1e-9);
 }
 
 TEST_F(TwoRows, NegativePenaltiesAreRefusedAndNothingChanges) {

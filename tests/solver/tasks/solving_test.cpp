@@ -126,23 +126,6 @@ TEST_F(SolvingTest, GivenLpSolutionMustBeNumbers) {
   EXPECT_EQ(VORQ_SetLpSolution(prob, nullptr, nullptr, nullptr, nullptr), VORQ_INVALID);
 }
 
-TEST_F(SolvingTest, CallbacksAreRefusedAndNoneIsAccepted) {
-  EXPECT_EQ(VORQ_SetCallback(prob, nullptr, 0, nullptr), VORQ_OK);
-  EXPECT_EQ(VORQ_SetCallback(
-                prob, [](VORQ_Prob*, VORQ_CallbackData*, int, void*) { return 0; }, 1, nullptr),
-            VORQ_INTERNAL);
-  int type = 7;
-  int dim = 7;
-  EXPECT_EQ(VORQ_SearchCallbackInfo(prob, "BestObj", &type, &dim), VORQ_OK);
-  EXPECT_EQ(type, -1);
-  EXPECT_EQ(dim, 0);
-  double value = 0.0;
-  EXPECT_EQ(VORQ_GetCallbackInfo(nullptr, "BestObj", &value), VORQ_INVALID);
-  EXPECT_EQ(VORQ_AddCallbackSolution(nullptr, &value, &value), VORQ_INVALID);
-  EXPECT_EQ(VORQ_AddCallbackUserCut(nullptr, 0, nullptr, nullptr, 'L', 0.0), VORQ_INVALID);
-  EXPECT_EQ(VORQ_AddCallbackLazyConstr(nullptr, 0, nullptr, nullptr, 'L', 0.0), VORQ_INVALID);
-}
-
 TEST_F(SolvingTest, NullProblemIsRefused) {
   EXPECT_EQ(VORQ_Solve(nullptr), VORQ_INVALID);
   EXPECT_EQ(VORQ_SolveLp(nullptr), VORQ_INVALID);
