@@ -18,13 +18,13 @@ std::unique_ptr<Vorq::IModel> MixtureModel(Vorq::IEnvr& envr) {
   std::unique_ptr<Vorq::IVar> nuts(model->AddVar(0.0, 3.0, 5.0, 'C', "nuts"));
   std::unique_ptr<Vorq::IExpr> weight(CreateLinExpr(oats.get(), 1.0));
   weight->AddTerm(nuts.get(), 1.0);
-  std::unique_ptr<Vorq::IConstraint>(model->AddConstr(weight.get(), 'G', 10.0, "weight"));
+  std::unique_ptr<Vorq::IConstraint> weightRow(model->AddConstr(weight.get(), 'G', 10.0, "weight"));
   std::unique_ptr<Vorq::IExpr> energy(CreateLinExpr(oats.get(), 4.0));
   energy->AddTerm(nuts.get(), 6.0);
-  std::unique_ptr<Vorq::IConstraint>(model->AddConstr(energy.get(), 'L', 36.0, "energy"));
+  std::unique_ptr<Vorq::IConstraint> energyRow(model->AddConstr(energy.get(), 'L', 36.0, "energy"));
   std::unique_ptr<Vorq::IExpr> share(CreateLinExpr(oats.get(), 1.0));
   share->AddTerm(nuts.get(), -4.0);
-  std::unique_ptr<Vorq::IConstraint>(model->AddConstr(share.get(), 'L', 2.0, "share"));
+  std::unique_ptr<Vorq::IConstraint> shareRow(model->AddConstr(share.get(), 'L', 2.0, "share"));
   return model;
 }
 

@@ -52,7 +52,7 @@ void StateMaxCut(Vorq::IModel& model) {
   auto diagonal = Own(x->Diagonal(0));
   auto unit = Own(factory->CreateMPsdConstrBuilder(Own(factory->CreateNDim(kNodes)).get()));
   unit->Set(diagonal.get(), 'E', 1.0);
-  Own(model.AddMPsdConstr(unit.get(), "unit"));
+  auto rows = Own(model.AddMPsdConstr(unit.get(), "unit"));
 
   auto laplacian = Own(AddQuarterLaplacian(model));
   auto cut = Own(CreatePsdExpr4(x.get(), laplacian.get()));

@@ -35,7 +35,7 @@ void StatePortfolio(Vorq::IModel& model) {
   auto sum = Own(weights->Sum());
   auto budget = Own(factory->CreateMConstrBuilder(Own(factory->CreateNDim()).get()));
   budget->Set(sum.get(), 'E', 1.0);
-  Own(model.AddMConstr(budget.get(), "budget"));
+  auto total = Own(model.AddMConstr(budget.get(), "budget"));
 
   // limit >= |F w|: the rows of the cone are the limit and, below it, F w.
   auto f = Own(CreateNdArrayDbl2WithExData(factor, kAssets, kAssets));
@@ -43,7 +43,7 @@ void StatePortfolio(Vorq::IModel& model) {
   auto limit = Own(CreateNdArrayDbl1WithExData(riskLimit, 1));
   auto rows = Own(helper->Concat(limit.get(), deviation.get(), 0));
   constexpr int kQuadraticCone = 1;
-  Own(model.AddAffineCone(rows.get(), kQuadraticCone, "risk"));
+  auto cone = Own(model.AddAffineCone(rows.get(), kQuadraticCone, "risk"));
 
   auto m = Own(CreateNdArrayDbl1WithExData(expectedReturn, kAssets));
   auto expected = Own(helper->MatMult(m.get(), weights.get()));

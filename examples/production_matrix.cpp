@@ -4,7 +4,7 @@
 // Rows are products, columns are months. Stock is carried over by setting the initial stock in front of all months of
 // the stock block but the last: what a month finds is the block shifted by one column.
 #include <algorithm>
-#include <cstdint>
+#include <cstddef>
 #include <cstdio>
 #include <memory>
 #include <vector>
@@ -23,6 +23,7 @@ Owned<T> Own(T* object) {
 
 constexpr int kProducts = 4;
 constexpr int kMonths = 6;
+constexpr std::size_t kCells = std::size_t{kProducts} * kMonths;
 constexpr double kNormalHours = 360.0;
 constexpr double kOvertimeHours = 70.0;
 constexpr double kOvertimeCost = 55.0;
@@ -41,6 +42,11 @@ double demand[] = {180, 210, 120, 260, 240, 310,  //
                    70,  95,  60,  140, 120, 90,   //
                    110, 60,  130, 90,  150, 170};
 
+// Where a product and a month stand in an array of all cells.
+std::size_t Place(int product, int month) {
+  return static_cast<std::size_t>(product) * kMonths + static_cast<std::size_t>(month);
+}
+
 struct Plan {
   Owned<Vorq::IMVar<2>> make, stock, setup;
   Owned<Vorq::IMVar<1>> overtime;
@@ -51,8 +57,8 @@ class Planner {
   explicit Planner(Vorq::IModel& model) : model_(model) {}
 
   void AddVariables() {
-    std::vector<double> leastStock(kProducts * kMonths, 0.0);
-    for (int p = 0; p < kProducts; ++p) leastStock[p * kMonths + kMonths - 1] = finalStock[p];
+    std::vector<double> leastStock(kCells, 0.0);
+    for (int p = 0; p < kProducts; ++p) leastStock[Place(p, kMonths - 1)] = finalStock[p];
     plan_.make = Own(model_.AddMVar(blocks_.get(), 'C', "make"));
     plan_.stock = Own(model_.AddMVar(blocks_.get(), leastStock.data(), nullptr, nullptr, nullptr, "stock"));
     plan_.setup = Own(model_.AddMVar(blocks_.get(), 'B', "setup"));
@@ -62,8 +68,8 @@ class Planner {
   // What is there at the start of a month and what is made covers the demand and what is kept.
   void AddStockBalances() {
     auto allButLast = Own(factory_->CreateView());
-    Own(allButLast->Full());
-    Own(allButLast->Slice(0, -1, 1, 0));
+    auto allProducts = Own(allButLast->Full());
+    auto fewerMonths = Own(allButLast->Slice(0, -1, 1, 0));
     auto kept = Own(plan_.stock->View(allButLast.get()));
     auto before = Own(CreateNdArrayDbl2WithExData(initialStock, kProducts, 1));
     auto found = Own(helper_->Concat(before.get(), kept.get(), 1));
@@ -72,18 +78,18 @@ class Planner {
     auto wanted = Own(CreateNdArrayDbl2WithExData(demand, kProducts, kMonths));
     auto builder = Own(factory_->CreateMConstrBuilder(blocks_.get()));
     builder->Set(sold.get(), 'E', wanted.get());
-    Own(model_.AddMConstr(builder.get(), "balance"));
+    auto rows = Own(model_.AddMConstr(builder.get(), "balance"));
   }
 
   // Nothing is made without a setup: at most what the whole line can make, or what is still to be sold.
   void AddSetups() {
-    std::vector<double> most(kProducts * kMonths);
+    std::vector<double> most(kCells);
     for (int p = 0; p < kProducts; ++p) {
       double const lineLimit = (kNormalHours + kOvertimeHours - setupHours[p]) / unitHours[p];
       double stillToSell = finalStock[p];
       for (int t = kMonths - 1; t >= 0; --t) {
-        stillToSell += demand[p * kMonths + t];
-        most[p * kMonths + t] = std::min(stillToSell, lineLimit);
+        stillToSell += demand[Place(p, t)];
+        most[Place(p, t)] = std::min(stillToSell, lineLimit);
       }
     }
     auto limits = Own(CreateNdArrayDbl2WithExData(most.data(), kProducts, kMonths));
@@ -91,7 +97,7 @@ class Planner {
     auto excess = Own(broadcast_->Sub(plan_.make.get(), allowed.get()));
     auto builder = Own(factory_->CreateMConstrBuilder(blocks_.get()));
     builder->Set(excess.get(), 'L', 0.0);
-    Own(model_.AddMConstr(builder.get(), "link"));
+    auto rows = Own(model_.AddMConstr(builder.get(), "link"));
   }
 
   // Hours of the line and room of the store, one row a month.
@@ -102,12 +108,12 @@ class Planner {
     auto normal = Own(broadcast_->Sub(work.get(), plan_.overtime.get()));
     auto hours = Own(factory_->CreateMConstrBuilder(months_.get()));
     hours->Set(normal.get(), 'L', kNormalHours);
-    Own(model_.AddMConstr(hours.get(), "hours"));
+    auto hourRows = Own(model_.AddMConstr(hours.get(), "hours"));
 
     auto stored = Own(helper_->SumAxis(plan_.stock.get(), 0));
     auto room = Own(factory_->CreateMConstrBuilder(months_.get()));
     room->Set(stored.get(), 'L', kStoreRoom);
-    Own(model_.AddMConstr(room.get(), "room"));
+    auto roomRows = Own(model_.AddMConstr(room.get(), "room"));
   }
 
   void SetCost() {

@@ -2,7 +2,6 @@
 // objects.
 #include "frame/chunk_pool.hpp"
 
-#include <cstdint>
 #include <mutex>
 #include <new>
 
@@ -54,7 +53,7 @@ void Unlink(Region* region) {
 }
 
 Region* RegionOf(void* chunk) {
-  return reinterpret_cast<Region*>(reinterpret_cast<std::uintptr_t>(chunk) & ~(kRegionSize - 1));
+  return reinterpret_cast<Region*>(StartOfBlock(chunk, kRegionSize));
 }
 
 }  // namespace

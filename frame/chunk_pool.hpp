@@ -6,8 +6,14 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 namespace Vorq {
+
+// The start of the block in which `place` lies, blocks being aligned to their size, a power of two.
+inline std::byte* StartOfBlock(void* place, std::size_t size) {
+  return static_cast<std::byte*>(place) - (reinterpret_cast<std::uintptr_t>(place) & (size - 1));
+}
 
 class ChunkPool {
  public:

@@ -16,9 +16,11 @@ inline constexpr std::size_t kHugePageSize = std::size_t{2} << 20;
 // To be called before the block is used. Where the system knows no such pages it does nothing.
 inline void AdviseHugePages([[maybe_unused]] void* memory, [[maybe_unused]] std::size_t bytes) noexcept {
 #ifdef MADV_HUGEPAGE
-  auto const begin = (reinterpret_cast<std::uintptr_t>(memory) + kHugePageSize - 1) & ~(kHugePageSize - 1);
-  auto const end = (reinterpret_cast<std::uintptr_t>(memory) + bytes) & ~(kHugePageSize - 1);
-  if (begin < end) madvise(reinterpret_cast<void*>(begin), end - begin, MADV_HUGEPAGE);
+  // From the first whole page on.
+  std::size_t const before = -reinterpret_cast<std::uintptr_t>(memory) % kHugePageSize;
+  if (bytes < before + kHugePageSize) return;
+  std::size_t const whole = (bytes - before) / kHugePageSize * kHugePageSize;
+  madvise(static_cast<std::byte*>(memory) + before, whole, MADV_HUGEPAGE);
 #endif
 }
 

@@ -101,7 +101,7 @@ class Slab {
   }
 
   static Chunk* ChunkOf(Slot* slot) {
-    return reinterpret_cast<Chunk*>(reinterpret_cast<std::uintptr_t>(slot) & ~(ChunkPool::kChunkSize - 1));
+    return reinterpret_cast<Chunk*>(StartOfBlock(slot, ChunkPool::kChunkSize));
   }
 
   static void GiveBack(Chunk* chunk, std::uint32_t count) noexcept {
