@@ -19,6 +19,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "frame/huge_pages.hpp"
 #include "frame/shared_block.hpp"
 #include "frame/slab.hpp"
 
@@ -108,7 +109,10 @@ class SharedPtr {
       if (elements > (std::numeric_limits<std::size_t>::max() - sizeof(ArrayBlock)) / sizeof(T)) {
         throw std::bad_array_new_length();
       }
-      return ::new (Allocate(sizeof(ArrayBlock) + elements * sizeof(T))) ArrayBlock(elements);
+      std::size_t const size = sizeof(ArrayBlock) + elements * sizeof(T);
+      void* const memory = Allocate(size);
+      AdviseHugePages(memory, size);
+      return ::new (memory) ArrayBlock(elements);
     }
     // The elements must have been destroyed.
     static void Delete(ArrayBlock* block) noexcept {
