@@ -8,8 +8,10 @@
 namespace Vorq {
 namespace {
 
+// Null for an object that has no proxy, or none any more.
 SharedPtr<CallbackProxy> ProxyOf(ICallback& callback) {
-  return static_cast<VorqCallbackProxy*>(callback.GetCallbackProxy())->Holder();
+  ICallbackProxy* const proxy = callback.GetCallbackProxy();
+  return proxy == nullptr ? SharedPtr<CallbackProxy>() : static_cast<VorqCallbackProxy*>(proxy)->Holder();
 }
 
 // What the solver library calls. The holder keeps the proxy should the callback delete its handle. An exception of the
@@ -17,6 +19,7 @@ SharedPtr<CallbackProxy> ProxyOf(ICallback& callback) {
 int RunCallback(VORQ_Prob*, VORQ_CallbackData* data, int context, void* user) {
   auto& callback = *static_cast<ICallback*>(user);
   SharedPtr<CallbackProxy> const proxy = ProxyOf(callback);
+  if (!proxy) return kOk;
   proxy->Run(data, context, [&callback] { callback.Callback(); });
   return kOk;
 }
@@ -33,7 +36,8 @@ void SetCallback(Model& model, ICallback* callback, int contextMask) {
     return;
   }
   auto attach = [callback, problem = model.Core().prob](int columnCount) {
-    return ProxyOf(*callback)->Attach(problem, columnCount);
+    SharedPtr<CallbackProxy> const proxy = ProxyOf(*callback);
+    return !proxy || proxy->Attach(problem, columnCount);
   };
   if (!attach(model.Count<Var>())) {
     SetStatus(model.status, kInvalid, "The callback is running for another model");

@@ -85,16 +85,22 @@ class CallbackProxy {
   // The time of one callback, at whose end what was fetched is forgotten.
   class Call {
    public:
-    explicit Call(CallbackProxy& proxy) : proxy_(proxy) { proxy_.isRunning_ = true; }
+    // What was fetched before, in vain, is forgotten too.
+    explicit Call(CallbackProxy& proxy) : proxy_(proxy), solver_(proxy.solver_.exchange(std::this_thread::get_id())) {
+      proxy_.isRunning_ = true;
+      proxy_.ForgetVectors();
+    }
     Call(Call const&) = delete;
     Call& operator=(Call const&) = delete;
     ~Call() {
       proxy_.isRunning_ = false;
       proxy_.ForgetVectors();
+      proxy_.solver_.store(solver_);
     }
 
    private:
     CallbackProxy& proxy_;
+    std::thread::id solver_;
   };
 
   VORQ_Prob* Prob() const { return problem_ ? problem_->prob : nullptr; }
@@ -123,7 +129,7 @@ class CallbackProxy {
   std::vector<double> solution_;
   TermMerger merger_;
   bool isRunning_ = false;
-  // The thread that attached last: it solves, and runs the callbacks.
+  // The thread that attached last or, inside of a callback, the one that runs it.
   std::atomic<std::thread::id> solver_;
 };
 

@@ -1,6 +1,6 @@
 // Feasibility relaxation: penalties go to the solver library in its order and of full length.
 #include "matrix/block_rows.hpp"
-#include "model/model.hpp"
+#include "model/solve_scope.hpp"
 
 namespace Vorq {
 namespace {
@@ -26,6 +26,14 @@ double const* DataOrNull(std::vector<double> const& values) {
   return values.empty() ? nullptr : values.data();
 }
 
+// Never null, also without any: a null array would stand for none to relax.
+std::vector<double> Ones(int count) {
+  std::vector<double> ones;
+  ones.reserve(static_cast<std::size_t>(count) + 1);
+  ones.assign(static_cast<std::size_t>(count), 1.0);
+  return ones;
+}
+
 }  // namespace
 
 bool Model::BeginFeasRelax(std::size_t varCount, std::size_t constrCount, double& infinite) {
@@ -37,6 +45,7 @@ bool Model::BeginFeasRelax(std::size_t varCount, std::size_t constrCount, double
 
 void Model::FeasRelax(VarArray const& vars, double const* colLowPen, double const* colUppPen, ConstrArray const& cons,
                       double const* rowBndPen, double const* rowUppPen) {
+  SolveScope const scope(*this);
   double infinite = 0.0;
   if (!BeginFeasRelax(vars.size(), cons.size(), infinite)) return;
 
@@ -65,6 +74,7 @@ void Model::RelaxAll(VarArray const& vars, ConstrArray const& cons, double const
 
 void Model::FeasRelax(MVar<1> const& vars, double const* colLowPen, double const* colUppPen, MConstr<1> const& cons,
                       double const* rowBndPen, double const* rowUppPen) {
+  SolveScope const scope(*this);
   double infinite = 0.0;
   if (!BeginFeasRelax(vars.GetSize(), cons.GetSize(), infinite)) return;
   RelaxAll(CellList(vars), CellList(cons), {colLowPen, colUppPen, rowBndPen, rowUppPen}, infinite);
@@ -73,6 +83,7 @@ void Model::FeasRelax(MVar<1> const& vars, double const* colLowPen, double const
 void Model::FeasRelax(MVar<1> const& vars, NdArray<double, 1> const& colLowPen, NdArray<double, 1> const& colUppPen,
                       MConstr<1> const& cons, NdArray<double, 1> const& rowBndPen,
                       NdArray<double, 1> const& rowUppPen) {
+  SolveScope const scope(*this);
   double infinite = 0.0;
   if (!BeginFeasRelax(vars.GetSize(), cons.GetSize(), infinite)) return;
 
@@ -96,9 +107,10 @@ void Model::FeasRelax(MVar<1> const& vars, NdArray<double, 1> const& colLowPen, 
 }
 
 void Model::FeasRelax(bool relaxVars, bool relaxCons) {
+  SolveScope const scope(*this);
   if (!ApplyRemovals() || (!relaxVars && !relaxCons)) return;
-  std::vector<double> const cols(static_cast<std::size_t>(Count<Var>()), 1.0);
-  std::vector<double> const rows(static_cast<std::size_t>(Count<Constraint>()), 1.0);
+  std::vector<double> const cols = Ones(Count<Var>());
+  std::vector<double> const rows = Ones(Count<Constraint>());
   double const* const col = relaxVars ? cols.data() : nullptr;
   double const* const row = relaxCons ? rows.data() : nullptr;
   Record(VORQ_FeasRelax(Prob(), col, col, row, nullptr), kFeasRelaxFailed);

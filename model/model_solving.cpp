@@ -1,5 +1,5 @@
 // Running the solver, its callback and its log.
-#include "model/model.hpp"
+#include "model/solve_scope.hpp"
 
 namespace Vorq {
 namespace {
@@ -10,18 +10,6 @@ void PassLogLine(char const* line, void* user) {
 }
 
 }  // namespace
-
-// While one lives, Interrupt leaves the status to the operation that it interrupts.
-class Model::SolveScope {
- public:
-  explicit SolveScope(Model& model) : solving_(model.solving_) { solving_ = true; }
-  SolveScope(SolveScope const&) = delete;
-  SolveScope& operator=(SolveScope const&) = delete;
-  ~SolveScope() { solving_ = false; }
-
- private:
-  std::atomic<bool>& solving_;
-};
 
 void Model::Solve() {
   SolveScope const scope(*this);
@@ -59,9 +47,11 @@ void Model::Interrupt() {
 }
 
 bool Model::SetCallback(VORQ_CallbackFunction function, int contextMask, void* user, ColumnCountListener listener) {
+  char const* const text = function == nullptr ? "Fail to clean user callback" : "Fail to set user callback";
+  // The callback from before stays where the solver library refuses, and so does who is told of the columns.
+  if (!Record(VORQ_SetCallback(Prob(), function, contextMask, user), text)) return false;
   columnCountListener_ = std::move(listener);
-  return Record(VORQ_SetCallback(Prob(), function, contextMask, user),
-                function == nullptr ? "Fail to clean user callback" : "Fail to set user callback");
+  return true;
 }
 
 int Model::SetLogFile(char const* path) {

@@ -27,7 +27,7 @@ class ICallbackProxy {
   virtual ~ICallbackProxy() = default;
 
   // Ends the solve soon. The one operation that other threads may call during a solve; what they are answered is not
-  // recorded while the callback runs.
+  // recorded.
   virtual void Interrupt() = 0;
 
   // Cuts off points that are not integral. The batch forms refuse senses 'N' and 'R' with code 3 and add none.
