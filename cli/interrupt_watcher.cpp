@@ -15,15 +15,18 @@ sigset_t WatchedSignals() {
   return signals;
 }
 
-}  // namespace
-
-void BlockInterrupts() {
+// For this thread and those that it starts; the former mask.
+sigset_t BlockSignals() {
   sigset_t const signals = WatchedSignals();
-  pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+  sigset_t former;
+  pthread_sigmask(SIG_BLOCK, &signals, &former);
+  return former;
 }
 
+}  // namespace
+
 InterruptWatcher::InterruptWatcher(Vorq::IModel& model)
-    : thread_([&model](std::stop_token const& stop) {
+    : former_(BlockSignals()), thread_([&model](std::stop_token const& stop) {
         sigset_t const signals = WatchedSignals();
         timespec const pause = {.tv_sec = 0, .tv_nsec = 50'000'000};
         while (!stop.stop_requested()) {
@@ -33,6 +36,8 @@ InterruptWatcher::InterruptWatcher(Vorq::IModel& model)
 
 InterruptWatcher::~InterruptWatcher() {
   thread_.request_stop();
+  thread_.join();
+  pthread_sigmask(SIG_SETMASK, &former_, nullptr);
 }
 
 }  // namespace cli

@@ -7,7 +7,6 @@
 #include "cli/arguments.hpp"
 #include "cli/convert_command.hpp"
 #include "cli/iis_command.hpp"
-#include "cli/interrupt_watcher.hpp"
 #include "cli/outcome.hpp"
 #include "cli/relax_command.hpp"
 #include "cli/solve_command.hpp"
@@ -56,7 +55,6 @@ cli::Outcome RunCommand(std::span<char const* const> arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  cli::BlockInterrupts();
   try {
     return ExitCode(RunCommand({argv + 1, static_cast<std::size_t>(argc > 0 ? argc - 1 : 0)}));
   } catch (cli::UsageError const& error) {

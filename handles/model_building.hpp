@@ -48,14 +48,17 @@ class VorqModelBuilding : public VorqModelFiles {
   // Blocks of variables.
 #define VORQ_ADD_MVAR(N)                                                                                          \
   Vorq::IMVar<N>* AddMVar(Vorq::INDim<N>* shape, char type, char const* prefix) override {                        \
+    if (!Given("AddMVar", shape)) return Vorq::WrapBlock(Vorq::MVar<N>());                                        \
     return Vorq::WrapBlock(Impl().AddMVar(Vorq::Unwrap(shape), type, prefix));                                    \
   }                                                                                                               \
   Vorq::IMVar<N>* AddMVar(Vorq::INDim<N>* shape, double lb, double ub, double obj, char type, char const* prefix) \
       override {                                                                                                  \
+    if (!Given("AddMVar", shape)) return Vorq::WrapBlock(Vorq::MVar<N>());                                        \
     return Vorq::WrapBlock(Impl().AddMVar(Vorq::Unwrap(shape), lb, ub, obj, type, prefix));                       \
   }                                                                                                               \
   Vorq::IMVar<N>* AddMVar(Vorq::INDim<N>* shape, double const* lbs, double const* ubs, double const* objs,        \
                           char const* types, char const* prefix) override {                                       \
+    if (!Given("AddMVar", shape)) return Vorq::WrapBlock(Vorq::MVar<N>());                                        \
     return Vorq::WrapBlock(Impl().AddMVar(Vorq::Unwrap(shape), lbs, ubs, objs, types, prefix));                   \
   }
   VORQ_ADD_MVAR(0)
@@ -97,13 +100,16 @@ class VorqModelBuilding : public VorqModelFiles {
 
   // Linear constraints from matrix cells and blocks.
   Vorq::IConstraint* AddConstr(Vorq::IMExpression* cell, char sense, double rhs, char const* name) override {
+    if (!Given("AddConstr", cell)) return Vorq::Wrap<Vorq::IConstraint>(Impl().Invalid<Vorq::Constraint>());
     return Vorq::Wrap<Vorq::IConstraint>(Impl().AddConstr(Vorq::Unwrap(cell), sense, rhs, name));
   }
 #define VORQ_ADD_M_CONSTR(N)                                                                                     \
   Vorq::IMConstr<N>* AddMConstr(Vorq::IMConstrBuilder<N>* builder, char const* prefix) override {                \
+    if (!Given("AddMConstr", builder)) return Vorq::WrapBlock(Vorq::MConstr<N>());                               \
     return Vorq::WrapBlock(Impl().AddMConstr(Vorq::Unwrap(builder), prefix));                                    \
   }                                                                                                              \
   Vorq::IMConstr<N>* AddMConstr(Vorq::IMLinExpr<N>* expr, char sense, double rhs, char const* prefix) override { \
+    if (!Given("AddMConstr", expr)) return Vorq::WrapBlock(Vorq::MConstr<N>());                                  \
     return Vorq::WrapBlock(Impl().AddMConstr(Vorq::Unwrap(expr), sense, rhs, prefix));                           \
   }
   VORQ_ADD_M_CONSTR(0)
@@ -129,16 +135,16 @@ class VorqModelBuilding : public VorqModelFiles {
     Impl().AddCuts(Vorq::kUserCut, Vorq::Unwrap(builders), names, length);
   }
   void AddUserCuts(Vorq::IMConstrBuilder<0>* builder, char const* prefix) override {
-    Impl().AddCuts(Vorq::kUserCut, Vorq::Unwrap(builder), prefix);
+    if (Given("AddUserCuts", builder)) Impl().AddCuts(Vorq::kUserCut, Vorq::Unwrap(builder), prefix);
   }
   void AddUserCuts(Vorq::IMConstrBuilder<1>* builder, char const* prefix) override {
-    Impl().AddCuts(Vorq::kUserCut, Vorq::Unwrap(builder), prefix);
+    if (Given("AddUserCuts", builder)) Impl().AddCuts(Vorq::kUserCut, Vorq::Unwrap(builder), prefix);
   }
   void AddUserCuts(Vorq::IMConstrBuilder<2>* builder, char const* prefix) override {
-    Impl().AddCuts(Vorq::kUserCut, Vorq::Unwrap(builder), prefix);
+    if (Given("AddUserCuts", builder)) Impl().AddCuts(Vorq::kUserCut, Vorq::Unwrap(builder), prefix);
   }
   void AddUserCuts(Vorq::IMConstrBuilder<3>* builder, char const* prefix) override {
-    Impl().AddCuts(Vorq::kUserCut, Vorq::Unwrap(builder), prefix);
+    if (Given("AddUserCuts", builder)) Impl().AddCuts(Vorq::kUserCut, Vorq::Unwrap(builder), prefix);
   }
   void AddLazyConstr(Vorq::IExpr* expr, char sense, double rhs, char const* name) override {
     Impl().AddCut(Vorq::kLazyConstr, Vorq::Unwrap(expr), sense, rhs, name);
@@ -156,15 +162,15 @@ class VorqModelBuilding : public VorqModelFiles {
     Impl().AddCuts(Vorq::kLazyConstr, Vorq::Unwrap(builders), names, length);
   }
   void AddLazyConstrs(Vorq::IMConstrBuilder<0>* builder, char const* prefix) override {
-    Impl().AddCuts(Vorq::kLazyConstr, Vorq::Unwrap(builder), prefix);
+    if (Given("AddLazyConstrs", builder)) Impl().AddCuts(Vorq::kLazyConstr, Vorq::Unwrap(builder), prefix);
   }
   void AddLazyConstrs(Vorq::IMConstrBuilder<1>* builder, char const* prefix) override {
-    Impl().AddCuts(Vorq::kLazyConstr, Vorq::Unwrap(builder), prefix);
+    if (Given("AddLazyConstrs", builder)) Impl().AddCuts(Vorq::kLazyConstr, Vorq::Unwrap(builder), prefix);
   }
   void AddLazyConstrs(Vorq::IMConstrBuilder<2>* builder, char const* prefix) override {
-    Impl().AddCuts(Vorq::kLazyConstr, Vorq::Unwrap(builder), prefix);
+    if (Given("AddLazyConstrs", builder)) Impl().AddCuts(Vorq::kLazyConstr, Vorq::Unwrap(builder), prefix);
   }
   void AddLazyConstrs(Vorq::IMConstrBuilder<3>* builder, char const* prefix) override {
-    Impl().AddCuts(Vorq::kLazyConstr, Vorq::Unwrap(builder), prefix);
+    if (Given("AddLazyConstrs", builder)) Impl().AddCuts(Vorq::kLazyConstr, Vorq::Unwrap(builder), prefix);
   }
 };

@@ -12,13 +12,15 @@ class VorqModelSolving : public VorqModelItems {
   void SetObjSense(int sense) override { Impl().SetObjSense(sense); }
   void SetObjConst(double constant) override { Impl().SetObjConst(constant); }
   void SetObjective(Vorq::IExpr* expr, int sense) override { Impl().SetObjective(Vorq::Unwrap(expr), sense); }
-  void SetObjective(Vorq::IMExpression* cell, int sense) override { Impl().SetObjective(Vorq::Unwrap(cell), sense); }
+  void SetObjective(Vorq::IMExpression* cell, int sense) override {
+    if (Given("SetObjective", cell)) Impl().SetObjective(Vorq::Unwrap(cell), sense);
+  }
   Vorq::IExpr* GetObjective() override { return Vorq::Wrap<Vorq::IExpr>(Impl().GetObjective()); }
   void SetQuadObjective(Vorq::IQuadExpr* expr, int sense) override {
     Impl().SetQuadObjective(Vorq::Unwrap(expr), sense);
   }
   void SetQuadObjective(Vorq::IMQExpression* cell, int sense) override {
-    Impl().SetQuadObjective(Vorq::Unwrap(cell), sense);
+    if (Given("SetQuadObjective", cell)) Impl().SetQuadObjective(Vorq::Unwrap(cell), sense);
   }
   Vorq::IQuadExpr* GetQuadObjective() override { return Vorq::Wrap<Vorq::IQuadExpr>(Impl().GetQuadObjective()); }
   void DelQuadObj() override { Impl().DelQuadObj(); }

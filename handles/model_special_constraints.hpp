@@ -31,6 +31,9 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
   }
   Vorq::IGenConstr* AddGenConstrIndicator(Vorq::IVar* var, int val, Vorq::IMExpression* cell, char sense, double rhs,
                                           int type, char const* name) override {
+    if (!Given("AddGenConstrIndicator", var, cell)) {
+      return Vorq::Wrap<Vorq::IGenConstr>(Impl().Invalid<Vorq::GenConstr>());
+    }
     return Vorq::Wrap<Vorq::IGenConstr>(
         Impl().AddGenConstrIndicator(Vorq::Unwrap(var), val, Vorq::Unwrap(cell), sense, rhs, type, name));
   }
@@ -44,6 +47,7 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
 #define VORQ_ADD_INDICATORS(N)                                                                                        \
   Vorq::IGenConstrArray* AddGenConstrIndicators(Vorq::IMVar<N>* binaries, int val, Vorq::IMConstrBuilder<N>* builder, \
                                                 int type, char const* prefix) override {                              \
+    if (!Given("AddGenConstrIndicators", binaries, builder)) return Vorq::Wrap<Vorq::IGenConstrArray>();              \
     return Vorq::Wrap<Vorq::IGenConstrArray>(                                                                         \
         Impl().AddGenConstrIndicators(Vorq::Unwrap(binaries), val, Vorq::Unwrap(builder), type, prefix));             \
   }
@@ -132,13 +136,16 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
     return Vorq::Wrap<Vorq::IQConstraint>(Impl().AddQConstr(Vorq::Unwrap(builder), name));
   }
   Vorq::IQConstraint* AddQConstr(Vorq::IMQExpression* cell, char sense, double rhs, char const* name) override {
+    if (!Given("AddQConstr", cell)) return Vorq::Wrap<Vorq::IQConstraint>(Impl().Invalid<Vorq::QConstraint>());
     return Vorq::Wrap<Vorq::IQConstraint>(Impl().AddQConstr(Vorq::Unwrap(cell), sense, rhs, name));
   }
 #define VORQ_ADD_M_Q_CONSTR(N)                                                                                      \
   Vorq::IMQConstr<N>* AddMQConstr(Vorq::IMQConstrBuilder<N>* builder, char const* prefix) override {                \
+    if (!Given("AddMQConstr", builder)) return Vorq::WrapBlock(Vorq::MQConstr<N>());                                \
     return Vorq::WrapBlock(Impl().AddMQConstr(Vorq::Unwrap(builder), prefix));                                      \
   }                                                                                                                 \
   Vorq::IMQConstr<N>* AddMQConstr(Vorq::IMQuadExpr<N>* expr, char sense, double rhs, char const* prefix) override { \
+    if (!Given("AddMQConstr", expr)) return Vorq::WrapBlock(Vorq::MQConstr<N>());                                   \
     return Vorq::WrapBlock(Impl().AddMQConstr(Vorq::Unwrap(expr), sense, rhs, prefix));                             \
   }
   VORQ_ADD_M_Q_CONSTR(0)
@@ -171,9 +178,11 @@ class VorqModelSpecialConstraints : public VorqModelBuilding {
   }
 #define VORQ_ADD_M_PSD_CONSTR(N)                                                                                       \
   Vorq::IMPsdConstr<N>* AddMPsdConstr(Vorq::IMPsdConstrBuilder<N>* builder, char const* prefix) override {             \
+    if (!Given("AddMPsdConstr", builder)) return Vorq::WrapBlock(Vorq::MPsdConstr<N>());                               \
     return Vorq::WrapBlock(Impl().AddMPsdConstr(Vorq::Unwrap(builder), prefix));                                       \
   }                                                                                                                    \
   Vorq::IMPsdConstr<N>* AddMPsdConstr(Vorq::IMPsdExpr<N>* expr, char sense, double rhs, char const* prefix) override { \
+    if (!Given("AddMPsdConstr", expr)) return Vorq::WrapBlock(Vorq::MPsdConstr<N>());                                  \
     return Vorq::WrapBlock(Impl().AddMPsdConstr(Vorq::Unwrap(expr), sense, rhs, prefix));                              \
   }
   VORQ_ADD_M_PSD_CONSTR(0)

@@ -22,6 +22,7 @@
 #include "matrix/dense_products_kinds.hpp"
 #include "matrix/matrix_operand.hpp"
 #include "matrix/nda_from_array.hpp"
+#include "matrix/readable_cells.hpp"
 
 namespace Vorq {
 
@@ -46,8 +47,8 @@ auto MatMult(Left const& left, Right const& right) {
   constexpr int kRank = Left::kRank + Right::kRank - 2;
   constexpr int kInnerAxis = Left::kRank - 1;
   using Cell = ProductResult<OperandCell<Left>, OperandCell<Right>>;
-  auto const& leftCells = CellsOf(left);
-  auto const& rightCells = CellsOf(right);
+  auto const leftCells = ReadableCells(left);
+  auto const rightCells = ReadableCells(right);
   std::uint64_t const leftSize = leftCells.GetDim(kInnerAxis);
   std::uint64_t const rightSize = rightCells.GetDim(0);
   if (leftSize != rightSize) return FailedProduct<Cell, kRank>(kInnerAxis, leftSize, rightSize);

@@ -17,7 +17,7 @@ MatrixObject<Cell, N>::MatrixObject(NdArray<Cell, N> cells) : cells_(std::move(c
     cells_ = std::move(filled);
   } else if constexpr (kIsItem<Cell>) {
     // A view can lie outside its store, where there is nothing to look at.
-    if (!StaysWithin(cells_.GetShape(), cells_.Store().Block()->count) || cells_.Find(0)->HasRecord()) return;
+    if (!cells_.StaysWithinStore() || cells_.Find(0)->HasRecord()) return;
     cells_.ForEach([](Cell& cell) {
       if (!cell.HasRecord()) cell = DefaultCell<Cell>();
     });
@@ -90,13 +90,13 @@ MatrixObject<Cell, 1> MatrixObject<Cell, N>::PickAt(NdArray<int, 2> const& coord
 
 template <class Cell, int N>
 Cell MatrixObject<Cell, N>::Get(std::uint64_t index) const {
-  Cell const* cell = FindWithinStore(cells_, index);
+  Cell const* cell = cells_.Find(index);
   return cell == nullptr ? DefaultCell<Cell>() : *cell;
 }
 
 template <class Cell, int N>
 void MatrixObject<Cell, N>::Set(std::uint64_t index, Cell const& value) {
-  Cell* cell = FindWithinStore(cells_, index);
+  Cell* cell = cells_.Find(index);
   if (cell != nullptr && cell != &value) *cell = value;
 }
 

@@ -1,5 +1,5 @@
-// MatrixOperand: a factor of a product as rows and columns over a store: what a kernel takes for both ranks, so that it
-// exists once for each kind of cell.
+// MatrixOperand: a factor of a product, all of whose cells can be read, as rows and columns over a store: what a kernel
+// takes for both ranks, so that it exists once for each kind of cell.
 #pragma once
 
 #include <cstdint>
@@ -35,8 +35,9 @@ class MatrixOperand {
     return transposed;
   }
 
-  // The cell of a row and a column, and the steps to the next row and to the next column.
-  Cell const* Find(std::uint64_t i, std::uint64_t j) const { return store_.Get() + Position(i, j); }
+  // The cell of a row and a column, null for a matrix without any, and the steps to the next row and to the next
+  // column.
+  Cell const* Find(std::uint64_t i, std::uint64_t j) const { return store_ ? store_.Get() + Position(i, j) : nullptr; }
   std::int64_t RowStride() const { return rows_.stride; }
   std::int64_t ColumnStride() const { return columns_.stride; }
 
@@ -54,13 +55,7 @@ class MatrixOperand {
 
   template <int N>
   MatrixOperand(NdArray<Cell, N> const& cells, Axis const& rows, Axis const& columns)
-      : store_(cells.Store()), start_(cells.GetShape().Start()), rows_(rows), columns_(columns) {
-    if (store_ || rows.size == 0 || columns.size == 0) return;
-    // Numbers without a store read as 0.
-    store_ = NdArray<Cell, 0>::OneElement(Cell()).Store();
-    start_ = 0;
-    rows_.stride = columns_.stride = 0;
-  }
+      : store_(cells.Store()), start_(cells.GetShape().Start()), rows_(rows), columns_(columns) {}
   MatrixOperand(SharedPtr<Cell> store, Axis const& rows, Axis const& columns)
       : store_(std::move(store)), rows_(rows), columns_(columns) {}
 

@@ -5,7 +5,6 @@
 
 #include "ndarray/nd_array.hpp"
 #include "ndarray/runs.hpp"
-#include "ndarray/within_store.hpp"
 
 namespace Vorq {
 
@@ -35,7 +34,7 @@ void ForEachPair(Visit&& visit, NdArray<Cell, N> const& cells, NdArray<Elements,
       auto const visitFound = [&](auto*... elements) {
         if (((elements != nullptr) && ...)) visit(*cells.Find(i), *elements...);
       };
-      visitFound(FindWithinStore(arrays, i)...);
+      visitFound(arrays.Find(i)...);
     }
     return;
   }

@@ -11,6 +11,7 @@
 
 #include "matrix/dense_products_cells.hpp"
 #include "matrix/matrix_operand.hpp"
+#include "matrix/readable_cells.hpp"
 
 namespace Vorq {
 namespace {
@@ -170,8 +171,8 @@ MatrixObject<ResultCell<Cell>, N> MatMult(MatrixObject<Cell, N> const& x, Sparse
   if (std::string const fault = FindFault(a); !fault.empty()) return Result::Failed(fault.c_str());
   return WithVectors(a, SparseOrder::kColumns, [&](SparseVectors const& columns) {
     sizes.back() = static_cast<std::uint64_t>(columns.count);
-    return Result(
-        NdArray<ResultCell<Cell>, N>(NDim<N>(sizes), MultiplyRows(MatrixOperand<Cell>::Left(x.Cells()), columns)));
+    return Result(NdArray<ResultCell<Cell>, N>(NDim<N>(sizes),
+                                               MultiplyRows(MatrixOperand<Cell>::Left(ReadableCells(x)), columns)));
   });
 }
 
@@ -187,8 +188,8 @@ MatrixObject<ResultCell<Cell>, N> MatMult(SparseMatrix const& a, MatrixObject<Ce
   if (std::string const fault = FindFault(a); !fault.empty()) return Result::Failed(fault.c_str());
   return WithVectors(a, SparseOrder::kRows, [&](SparseVectors const& rows) {
     sizes.front() = static_cast<std::uint64_t>(rows.count);
-    return Result(
-        NdArray<ResultCell<Cell>, N>(NDim<N>(sizes), MultiplyColumns(rows, MatrixOperand<Cell>::Right(x.Cells()))));
+    return Result(NdArray<ResultCell<Cell>, N>(NDim<N>(sizes),
+                                               MultiplyColumns(rows, MatrixOperand<Cell>::Right(ReadableCells(x)))));
   });
 }
 
@@ -204,8 +205,8 @@ MQuadExpr<0> MatMult(MVar<1> const& x, SparseMatrix const& a, MVar<1> const& y) 
                                     .c_str());
   }
   if (std::string const fault = FindFault(a); !fault.empty()) return MQuadExpr<0>::Failed(fault.c_str());
-  StridedVector<Var> const rows(x.Cells());
-  StridedVector<Var> const columns(y.Cells());
+  StridedVector<Var> const rows(ReadableCells(x));
+  StridedVector<Var> const columns(ReadableCells(y));
   SparseVectors const major = MajorVectors(a);
   std::size_t count = 0;
   major.ForEach([&count](int, int, double) { ++count; });

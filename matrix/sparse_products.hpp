@@ -29,9 +29,11 @@ struct SparseMatrix {
   int const* idx;
   double const* val;
 
+  // One less than the starts; the least number wraps nowhere.
+  int MajorCount() const { return static_cast<int>(std::int64_t{nBeg} - 1); }
   // The size of a side as failures tell it.
-  int RowCount() const { return order == SparseOrder::kColumns ? dim : nBeg - 1; }
-  int ColumnCount() const { return order == SparseOrder::kColumns ? nBeg - 1 : dim; }
+  int RowCount() const { return order == SparseOrder::kColumns ? dim : MajorCount(); }
+  int ColumnCount() const { return order == SparseOrder::kColumns ? MajorCount() : dim; }
 };
 
 // For blocks of variables, linear and quadratic expressions of rank 1 and 2.

@@ -33,7 +33,7 @@ template <class Cell, class Visit>
 void ForEachRow(MatrixObject<Cell, 1> const& exprs, Visit visit) {
   Cell none;
   for (std::uint64_t i = 0; i < exprs.GetSize(); ++i) {
-    Cell* const cell = FindWithinStore(exprs.Cells(), i);
+    Cell* const cell = exprs.Cells().Find(i);
     visit(cell == nullptr ? none : *cell);
   }
 }

@@ -68,7 +68,9 @@ MConstr<N> Model::AddRowBlock(MLinExpr<N> const& expr, char sense, double upper,
 template <int N>
 MConstr<N> Model::AddMConstr(MConstrBuilder<N> const& builder, char const* prefix) {
   char const sense = builder.sense;
-  if (!IsPlainSense(sense) && sense != 'N' && sense != 'R') {
+  bool const isKnown = IsPlainSense(sense) || sense == 'N' || sense == 'R';
+  // The sense is looked at with the first cell.
+  if (!isKnown && builder.expr.GetSize() > 0) {
     Refuse(kInvalidSense);
     return {};
   }

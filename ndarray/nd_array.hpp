@@ -71,8 +71,23 @@ class NdArray {
   NDim<N> const& GetShape() const { return shape_; }
   SharedPtr<T> const& Store() const { return store_; }
 
-  // The element at a flat index, null when there are no elements. The index is not checked.
-  T* Find(std::uint64_t index) const { return HasElements() ? store_.Get() + shape_.Position(index) : nullptr; }
+  // Whether each position of the shape has an element: indices of views are not checked, so that a shape can reach
+  // beyond the store. The end of foreign memory is not known.
+  bool StaysWithinStore() const {
+    if (GetSize() == 0) return true;
+    if (!HasElements()) return false;
+    std::size_t const count = store_.Block()->count;
+    return count == 0 || shape_.StaysWithin(count);
+  }
+
+  // The element at a flat index, which is not checked: it is read by the strides, and null where there is none.
+  T* Find(std::uint64_t index) const {
+    if (!HasElements()) return nullptr;
+    std::int64_t const position = shape_.Position(index);
+    std::size_t const count = store_.Block()->count;
+    bool const isInside = count == 0 || (position >= 0 && static_cast<std::uint64_t>(position) < count);
+    return isInside ? store_.Get() + position : nullptr;
+  }
 
   T Get(std::uint64_t index) const {
     T const* element = Find(index);
@@ -84,10 +99,12 @@ class NdArray {
     if (element != nullptr && element != &value) *element = value;
   }
 
-  // Calls visit(element) in flat order, for no element when there is no store.
+  // Calls visit(element) in flat order, for no element when there is no store. A default element stands for one beyond
+  // the store.
   template <class Visit>
   void ForEach(Visit&& visit) const {
     if (!HasElements()) return;
+    if (!StaysWithinStore()) return VisitEach(visit);
     T* const store = store_.Get();
     ForEachRun(
         [&](std::uint64_t count, Run run) {
@@ -137,6 +154,15 @@ class NdArray {
   bool HasElements() const { return static_cast<bool>(store_) && GetSize() != 0; }
 
  private:
+  template <class Visit>
+  void VisitEach(Visit&& visit) const {
+    for (std::uint64_t i = 0; i < GetSize(); ++i) {
+      T standIn{};
+      T* const element = Find(i);
+      visit(element == nullptr ? standIn : *element);
+    }
+  }
+
   template <int M>
   NdArray<T, M> ReshapeTo(NDim<M> const& target) const;
   NdArray RepeatAxis(std::uint64_t n, int axis, bool wholeRun) const;

@@ -7,7 +7,6 @@
 
 #include "ndarray/nd_array.hpp"
 #include "ndarray/view.hpp"
-#include "ndarray/within_store.hpp"
 
 namespace Vorq {
 
@@ -30,7 +29,9 @@ void NdArray<T, N>::Fill(T const& value) {
 
 template <class T, int N>
 void NdArray<T, N>::CopyTo(T* target) const {
-  if (HasElements()) {
+  if (HasElements() && !StaysWithinStore()) {
+    ForEach([&target](T const& element) { *target++ = element; });
+  } else if (HasElements()) {
     CopyAxes<T>(store_.Get() + shape_.Start(), shape_.GetAxes(), target);
   } else {
     std::fill_n(target, GetSize(), T());
@@ -54,7 +55,8 @@ NdArray<T, M> NdArray<T, N>::ReshapeTo(NDim<M> const& target) const {
     NdArray<T, 1> const flat = Flatten();
     SharedBlock const* block = flat.Store().Block();
     // A target that is itself a view can reach further than the elements that there are.
-    if (block == nullptr || StaysWithin(target, block->count)) return NdArray<T, M>(target, flat.Store());
+    if (block == nullptr || block->count == 0 || target.StaysWithin(block->count))
+      return NdArray<T, M>(target, flat.Store());
   }
   auto result = NdArray<T, M>::OneElement(Get(0));
   SetStatus(result.GetStatus(), kInvalid, "Cannot reshape NdArray of size %zu to new shape %s",

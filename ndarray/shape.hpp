@@ -144,6 +144,18 @@ class NDim {
     return position;
   }
 
+  // Whether all positions lie in a store of `count` elements.
+  bool StaysWithin(std::size_t count) const {
+    std::int64_t low = Start();
+    std::int64_t high = low;
+    for (Axis const& axis : axes_) {
+      if (axis.size == 0) return true;
+      std::int64_t const reach = MultiplyWrapped(static_cast<std::int64_t>(axis.size - 1), axis.stride);
+      (reach < 0 ? low : high) = AddWrapped(reach < 0 ? low : high, reach);
+    }
+    return low >= 0 && high < static_cast<std::int64_t>(count);
+  }
+
   // Position of a flat index. No size may be 0.
   std::int64_t Position(std::uint64_t index) const {
     std::int64_t position = Start();

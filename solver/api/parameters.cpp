@@ -39,6 +39,15 @@ VORQ_NameKind NameKind(char const* name) {
   return std::holds_alternative<DblParam>(*parameter) ? VORQ_DBL_PARAM : VORQ_INT_PARAM;
 }
 
+template <typename Change>
+int Set(VORQ_Prob* prob, char const* name, Change&& change) {
+  return Guard(prob, [&](Problem& problem) {
+    Need(name, "name");
+    if (problem.solving) Refuse("Parameters cannot be changed while the problem is being solved");
+    change(problem.parameters, name);
+  });
+}
+
 }  // namespace
 
 int VORQ_SearchParamAttr(VORQ_Prob*, char const* name, int* type) {
@@ -60,17 +69,13 @@ int VORQ_GetDblParam(VORQ_Prob* prob, char const* name, double* value) {
 }
 
 int VORQ_SetIntParam(VORQ_Prob* prob, char const* name, int value) {
-  return Guard(prob, [&](Problem& problem) {
-    Need(name, "name");
-    problem.parameters.SetInt(name, value);
-  });
+  return Set(prob, name,
+             [value](ParameterSet& parameters, char const* parameter) { parameters.SetInt(parameter, value); });
 }
 
 int VORQ_SetDblParam(VORQ_Prob* prob, char const* name, double value) {
-  return Guard(prob, [&](Problem& problem) {
-    Need(name, "name");
-    problem.parameters.SetDbl(name, value);
-  });
+  return Set(prob, name,
+             [value](ParameterSet& parameters, char const* parameter) { parameters.SetDbl(parameter, value); });
 }
 
 int VORQ_GetIntParamDef(VORQ_Prob* prob, char const* name, int* value) {

@@ -55,5 +55,8 @@ int VORQ_Reset(VORQ_Prob* prob, int all) {
 }
 
 int VORQ_ResetParam(VORQ_Prob* prob) {
-  return Guard(prob, [](Problem& problem) { problem.parameters.Reset(); });
+  return Guard(prob, [](Problem& problem) {
+    if (problem.solving) Refuse("Parameters cannot be changed while the problem is being solved");
+    problem.parameters.Reset();
+  });
 }

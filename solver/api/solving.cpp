@@ -149,7 +149,9 @@ int VORQ_GetSolution(VORQ_Prob* prob, double* values) {
 int VORQ_GetLpSolution(VORQ_Prob* prob, double* values, double* slacks, double* duals, double* redCosts) {
   return Guard(prob, [&](Problem& problem) {
     auto const& relaxed = problem.result.relaxed;
-    auto const& lp = relaxed.available ? LpSolution{relaxed.values, relaxed.slacks, {}, {}} : problem.result.lp;
+    LpSolution relaxedPoint;
+    if (relaxed.available) relaxedPoint = {relaxed.values, relaxed.slacks, {}, {}};
+    auto const& lp = relaxed.available ? relaxedPoint : problem.result.lp;
     if (!relaxed.available && !problem.HasLpSolution()) Refuse("There is no LP solution");
     if (slacks != nullptr) RequireSize(lp.slacks.size(), problem.data.rows.Count(), "slack");
     if (duals != nullptr) RequireSize(lp.duals.size(), problem.data.rows.Count(), "dual solution");

@@ -305,7 +305,8 @@ BranchAndCut::NodeEnd BranchAndCut::Process(SearchNode& node) {
       if (auto const end = TakeIntegral(node)) return *end;
       continue;
     }
-    if (cutPasses-- > 0 && AddCuts()) continue;
+    // Cuts that follow from the bounds of the box would outlive it.
+    if (!isBoxed_ && cutPasses-- > 0 && AddCuts()) continue;
     if (std::exchange(dives, false)) {
       Dive(node);
       relaxation_.MoveTo(node.changes);
@@ -468,6 +469,10 @@ void BranchAndCut::Conclude() {
 }
 
 SolveResult BranchAndCut::Finish() {
+  // Solutions may lie outside of the box.
+  if (isBoxed_ && result_.mipStatus == SolveStatus::kInfeasible) {
+    result_.mipStatus = SolveStatus::kInfeasibleOrUnbounded;
+  }
   result_.nodes = nodes_;
   result_.simplexIterations = relaxation_.Iterations();
   auto const& incumbents = solutions_.Incumbents();

@@ -310,6 +310,13 @@ std::unique_ptr<OsiClpSolverInterface> CbcSolver::Preprocess() {
     result_.mipStatus = incumbents_.IsEmpty() ? SolveStatus::kInfeasible : SolveStatus::kOptimal;
     return nullptr;
   }
+  if (processed->getNumCols() == 0) {
+    // All is settled, and the engine tells no way back to the columns: the model as it is gives them at once.
+    preprocess_.reset();
+    auto whole = std::make_unique<OsiClpSolverInterface>(solver_);
+    Control(*whole);
+    return whole;
+  }
   auto const* cols = preprocess_->originalColumns();
   originalCols_.assign(cols, cols + processed->getNumCols());
   auto reduced = std::make_unique<OsiClpSolverInterface>(*processed);
@@ -456,6 +463,10 @@ void CbcSolver::KeepFinal(std::vector<double> const& reducedValues, OsiClpSolver
 }
 
 SolveResult CbcSolver::Finish() {
+  // Solutions may lie outside of the box.
+  if (isBoxed_ && result_.mipStatus == SolveStatus::kInfeasible) {
+    result_.mipStatus = SolveStatus::kInfeasibleOrUnbounded;
+  }
   if (!incumbents_.IsEmpty()) {
     auto const& best = incumbents_.Best();
     auto const& lp = incumbents_.BestLp();
@@ -470,7 +481,8 @@ SolveResult CbcSolver::Finish() {
     result_.mipObjective = ObjectiveOf(task_.data, result_.mipValues);
   }
   bool const hasSolution = !result_.mipValues.empty();
-  if (isBoxed_ && hasSolution && result_.mipStatus == SolveStatus::kOptimal) {
+  bool const isDone = result_.mipStatus == SolveStatus::kOptimal || result_.mipStatus == SolveStatus::kImprecise;
+  if (isBoxed_ && hasSolution && isDone) {
     bool const touches = std::ranges::any_of(result_.mipValues, [](double v) { return std::abs(v) >= 0.5 * kBox; });
     if (touches) {
       auto const iterations = result_.simplexIterations;

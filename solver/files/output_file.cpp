@@ -47,8 +47,12 @@ void WritePlain(int descriptor, std::string_view text, std::string const& path) 
 }
 
 void WritePacked(int descriptor, std::string_view text, std::string const& path) {
-  gzFile const file = gzdopen(::dup(descriptor), "wb");
-  if (file == nullptr) RefuseFile(path);
+  int const copy = ::dup(descriptor);
+  gzFile const file = gzdopen(copy, "wb");
+  if (file == nullptr) {
+    if (copy >= 0) ::close(copy);
+    RefuseFile(path);
+  }
   bool good = true;
   while (good && !text.empty()) {
     auto const part = text.substr(0, 1 << 20);

@@ -18,7 +18,10 @@ bool IsCoefficient(double value) {
 }
 
 bool IsName(std::string_view name) {
-  return name.find('\0') == std::string_view::npos;
+  return std::ranges::none_of(name, [](char character) {
+    auto const code = static_cast<unsigned char>(character);
+    return code < 0x20 || code == 0x7f;
+  });
 }
 
 // The checks of one item, which failures name.

@@ -78,7 +78,13 @@ void Log::Send(std::string const& line, bool console) {
     std::fprintf(stdout, "%s\n", line.c_str());
     std::fflush(stdout);
   }
-  if (sink_ != nullptr) sink_(line.c_str(), user_);
+  if (sink_ == nullptr) return;
+  try {
+    sink_(line.c_str(), user_);
+  } catch (...) {
+    // A log line is called from the middle of engines and from a thread of our own, which no exception may leave.
+    return;
+  }
 }
 
 }  // namespace vorqsolver

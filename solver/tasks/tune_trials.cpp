@@ -44,10 +44,12 @@ bool Trials::MustStop() const {
 }
 
 void Trials::Prepare(int count) {
+  constexpr int kMostPermutations = 1000;
+  if (count > kMostPermutations) Refuse("TunePermutes is ", count, ", and at most ", kMostPermutations, " are tried");
   copies_.clear();
   copies_.push_back(std::make_shared<ProblemData const>(problem_.data));
   auto const seed = static_cast<unsigned>(problem_.parameters.Int(IntParam::kRandSeed));
-  for (int k = 1; k < count; ++k) {
+  for (int k = 1; k < count && !MustStop(); ++k) {
     copies_.push_back(std::make_shared<ProblemData const>(Permuted(problem_.data, seed + static_cast<unsigned>(k))));
   }
   for (auto const& copy : copies_) MakeForms(*copy);
@@ -103,6 +105,11 @@ TrialOutcome Trials::Try(Settings const& settings, double seconds) const {
     total.measure = kInfinity;
     total.isSolved = false;
     total.detail = Text(" ", failure.what());
+  } catch (...) {
+    // Engines throw classes of their own.
+    total.measure = kInfinity;
+    total.isSolved = false;
+    total.detail = " failed";
   }
   return total;
 }

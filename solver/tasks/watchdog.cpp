@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <chrono>
+#include <exception>
+#include <system_error>
 
 namespace vorqsolver {
 
@@ -13,7 +15,13 @@ constexpr std::chrono::seconds kSilence(5);
 }  // namespace
 
 Watchdog::Watchdog(Log& log) : log_(log) {
-  if (log_.Enabled()) thread_ = std::thread([this] { Watch(); });
+  if (!log_.Enabled()) return;
+  try {
+    thread_ = std::thread([this] { Watch(); });
+  } catch (std::system_error const&) {
+    // The solve goes on without it.
+    return;
+  }
 }
 
 Watchdog::~Watchdog() {
@@ -26,6 +34,15 @@ Watchdog::~Watchdog() {
   thread_.join();
 }
 
+void Watchdog::Report() noexcept {
+  try {
+    log_.Print("  at work for %.0fs", std::chrono::duration<double>(Clock::now() - begin_).count());
+  } catch (std::exception const&) {
+    // Without memory there is no line.
+    return;
+  }
+}
+
 void Watchdog::Watch() {
   std::unique_lock lock(mutex_);
   auto next = begin_ + kSilence;
@@ -34,7 +51,7 @@ void Watchdog::Watch() {
     if (due <= Clock::now()) {
       // A sink may take its time; the end of the solve need not wait for the lock meanwhile.
       lock.unlock();
-      log_.Print("  at work for %.0fs", std::chrono::duration<double>(Clock::now() - begin_).count());
+      Report();
       lock.lock();
     }
     next = std::max(log_.LastLine() + kSilence, Clock::now() + std::chrono::milliseconds(100));

@@ -23,6 +23,7 @@ class Watchdog {
 
  private:
   void Watch();
+  void Report() noexcept;
 
   Log& log_;
   Clock::time_point begin_ = Clock::now();
