@@ -12,6 +12,7 @@
 #include "solver/tasks/check.hpp"
 #include "solver/tasks/running.hpp"
 #include "solver/tasks/solve_report.hpp"
+#include "solver/tasks/subproblem.hpp"
 #include "solver/tasks/validate.hpp"
 #include "solver/tasks/watchdog.hpp"
 
@@ -94,8 +95,8 @@ SolveResult Run(Problem& problem, bool relaxed, Start const& start, Clock::time_
   LogEngine(problem, engine, what);
   StopSignal stop(problem.interrupted, begin, problem.parameters.Dbl(DblParam::kTimeLimit));
   problem.callbackSession.Set(ToHandle(problem), function, mask, user);
-  return engine.Solve({data, problem.parameters, start.basis, start.values, problem.starts, stop, problem.log,
-                       what.callback ? &problem.callbackSession : nullptr});
+  return SolveWith(engine, {data, problem.parameters, start.basis, start.values, problem.starts, stop, problem.log,
+                            what.callback ? &problem.callbackSession : nullptr});
 }
 
 }  // namespace

@@ -76,6 +76,22 @@ TEST(StorelessArray, AsIndicesPicksTheFirstElement) {
   EXPECT_EQ(Elements(array.PickAt(NdArray<int, 2>(NDim<2>({2, 1}), {}))), (Ints{0, 0}));
 }
 
+// Indices of views are not checked.
+TEST(ViewBeyondTheStore, ReadsDefaultsAndWritesNothing) {
+  auto const array = Counting<int, 1>({3});
+  Vorq::View view;
+  view.Scalar(5);
+  auto beyond = array.View(view);
+  EXPECT_EQ(beyond.Get(0), 0);
+  EXPECT_EQ(Elements(beyond), Ints{0});
+  EXPECT_EQ(Vorq::Sum(beyond).Get(0), 0);
+  EXPECT_EQ(Elements(beyond.Repeat(2, 0)), (Ints{0, 0}));
+  EXPECT_EQ(Vorq::ToString(beyond, 100), "[0]\n");
+  beyond.Set(0, 7);
+  beyond.Fill(7);
+  EXPECT_EQ(Elements(array), (Ints{0, 1, 2}));
+}
+
 TEST(Reshape, ToAShapeThatReachesBeyondTheStoreFails) {
   auto const array = Counting<int, 1>({3});
   auto const beyond = array.Reshape(NDim<1>::FromAxes({Axis{3, 2, 0}}));

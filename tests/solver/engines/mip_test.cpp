@@ -92,6 +92,29 @@ TEST_F(MipTest, InfeasibleWhereTheRelaxationIsUnbounded) {
   EXPECT_EQ(Solve(), kInfeasible);
 }
 
+// A search within 1e7 around 0 finds nothing here.
+TEST_F(MipTest, UnboundedFarFromZero) {
+  Col(-1.0, 0.0, kInf, 'I');
+  Col(0.0, 0.0, kInf, 'I');
+  Row({0, 1}, {1.0, 1.0}, 'G', 6e7);
+  Row({0, 1}, {1.0, -1.0}, 'R', -5.0, 5.0);
+  EXPECT_EQ(Solve(), kUnbounded);
+}
+
+// Presolve leaves no column.
+TEST_F(MipTest, FeasibilityAloneMayBeSettledByPresolve) {
+  Col(0.0, -kInf, 0.0, 'I');
+  Col(0.0, -4.0, kInf, 'I');
+  Col(0.0, -kInf, kInf, 'I');
+  Col(0.0, -5.0, kInf, 'I');
+  Row({0, 1, 2, 3}, {-3.0, 3.0, 3.0, 4.0}, 'G', -5.0);
+  Row({0, 3}, {-1.0, 1.0}, 'E', 1.0);
+  ASSERT_EQ(Solve(), kOptimal);
+  auto const values = Values();
+  EXPECT_NEAR(values[3] - values[0], 1.0, 1e-6);
+  EXPECT_GE(-3.0 * values[0] + 3.0 * values[1] + 3.0 * values[2] + 4.0 * values[3], -5.0 - 1e-6);
+}
+
 TEST_F(MipTest, WithoutRows) {
   Col(-1.0, 0.0, 2.5, 'I');
   Col(1.0, -1.5, 2.5, 'I');
