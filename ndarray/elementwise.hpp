@@ -25,11 +25,11 @@ template <class R, class T, int N, class Function>
 NdArray<R, N> Map(NdArray<T, N> const& array, Function&& function) {
   auto result = NdArray<R, N>::Fresh(array.GetShape());
   R* target = result.Store().Get();
-  T const* const store = array.Store().Get();
-  if (store == nullptr) {
-    for (std::uint64_t i = 0; i < result.GetSize(); ++i) *target++ = function(T());
+  if (!array.StaysWithinStore()) {
+    for (std::uint64_t i = 0; i < result.GetSize(); ++i) *target++ = function(array.Get(i));
     return result;
   }
+  T const* const store = array.Store().Get();
   ForEachRun(
       [&](std::uint64_t count, Run run) {
         MapRun(static_cast<std::int64_t>(count), store + run.start, run.stride, target, function);
@@ -59,12 +59,12 @@ template <class R, class A, class B, int N, class Function>
 NdArray<R, N> Combine(NdArray<A, N> const& a, NdArray<B, N> const& b, Function&& function) {
   auto result = NdArray<R, N>::Fresh(a.GetShape());
   R* target = result.Store().Get();
-  A const* const aStore = a.Store().Get();
-  B const* const bStore = b.Store().Get();
-  if (aStore == nullptr || bStore == nullptr) {
+  if (!a.StaysWithinStore() || !b.StaysWithinStore()) {
     for (std::uint64_t i = 0; i < result.GetSize(); ++i) *target++ = function(a.Get(i), b.Get(i));
     return result;
   }
+  A const* const aStore = a.Store().Get();
+  B const* const bStore = b.Store().Get();
   ForEachRun(
       [&](std::uint64_t count, Run aRun, Run bRun) {
         CombineRun(static_cast<std::int64_t>(count), aStore + aRun.start, aRun.stride, bStore + bRun.start, bRun.stride,

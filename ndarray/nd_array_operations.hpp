@@ -101,6 +101,9 @@ NdArray<T, N> NdArray<T, N>::RepeatAxis(std::uint64_t n, int axis, bool wholeRun
       return result;
     }
     if (n == 0) return result;
+    if (!StaysWithinStore()) {
+      return Generated(shape_, [this](std::uint64_t i) { return Get(i); }).RepeatAxis(n, axis, wholeRun);
+    }
     // Repeating is reading along one more axis with stride 0, in front of the repeated axis or behind it.
     std::array<Axis, N + 1> axes;
     std::size_t const extra = place + (wholeRun ? 0 : 1);
