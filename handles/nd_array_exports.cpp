@@ -17,9 +17,13 @@ Vorq::INdArray<T, static_cast<int>(N)>* CreateOver(T* data, std::array<int, N> c
   std::transform(sizes.begin(), sizes.end(), dims.begin(),
                  [](int size) { return static_cast<std::uint64_t>(std::max(size, 0)); });
   Vorq::NDim<kRank> shape(dims);
-  // A store of 0 elements would pass for a borrowed one, so that an empty array that was handed over counts as one.
-  std::size_t const count = ownership == Ownership::kTaken ? std::max<std::size_t>(shape.GetSize(), 1) : 0;
-  Vorq::SharedPtr<T> store(data, count);
+  bool const isTaken = ownership == Ownership::kTaken;
+  Vorq::SharedPtr<T> store;
+  if (isTaken && shape.GetSize() == 0) {
+    delete[] data;
+  } else {
+    store = Vorq::SharedPtr<T>(data, isTaken ? shape.GetSize() : 0);
+  }
   Vorq::NdArray<T, kRank> array(std::move(shape), std::move(store));
   for (int axis = 0; axis < kRank; ++axis) {
     int const size = sizes[static_cast<std::size_t>(axis)];

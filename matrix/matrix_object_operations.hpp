@@ -16,8 +16,7 @@ MatrixObject<Cell, N>::MatrixObject(NdArray<Cell, N> cells) : cells_(std::move(c
     filled.GetStatus() = std::move(cells_.GetStatus());
     cells_ = std::move(filled);
   } else if constexpr (kIsItem<Cell>) {
-    // A view can lie outside its store, where there is nothing to look at.
-    if (!cells_.StaysWithinStore() || cells_.Find(0)->HasRecord()) return;
+    if (cells_.Find(0)->HasRecord()) return;
     cells_.ForEach([](Cell& cell) {
       if (!cell.HasRecord()) cell = DefaultCell<Cell>();
     });
@@ -40,17 +39,17 @@ MatrixObject<Cell, N> MatrixObject<Cell, N>::WithoutCells(NDim<N> const& shape) 
 
 template <class Cell, int N>
 MatrixObject<Cell, 1> MatrixObject<Cell, N>::Reshape(NDim<1> const& shape) const {
-  return MatrixObject<Cell, 1>(cells_.Reshape(shape));
+  return MatrixObject<Cell, 1>(cells_.Reshape(shape, DefaultCell<Cell>()));
 }
 
 template <class Cell, int N>
 MatrixObject<Cell, 2> MatrixObject<Cell, N>::Reshape(NDim<2> const& shape) const {
-  return MatrixObject<Cell, 2>(cells_.Reshape(shape));
+  return MatrixObject<Cell, 2>(cells_.Reshape(shape, DefaultCell<Cell>()));
 }
 
 template <class Cell, int N>
 MatrixObject<Cell, 3> MatrixObject<Cell, N>::Reshape(NDim<3> const& shape) const {
-  return MatrixObject<Cell, 3>(cells_.Reshape(shape));
+  return MatrixObject<Cell, 3>(cells_.Reshape(shape, DefaultCell<Cell>()));
 }
 
 template <class Cell, int N>
@@ -75,17 +74,17 @@ MatrixObject<Cell, N> MatrixObject<Cell, N>::Transpose() const {
 
 template <class Cell, int N>
 MatrixObject<Cell, N> MatrixObject<Cell, N>::View(Vorq::View const& view) const {
-  return MatrixObject(cells_.View(view));
+  return MatrixObject(cells_.View(view, DefaultCell<Cell>()));
 }
 
 template <class Cell, int N>
 MatrixObject<Cell, 1> MatrixObject<Cell, N>::Pick(NdArray<int, 1> const& indices) const {
-  return MatrixObject<Cell, 1>(cells_.Pick(indices));
+  return MatrixObject<Cell, 1>(cells_.Pick(indices, DefaultCell<Cell>()));
 }
 
 template <class Cell, int N>
 MatrixObject<Cell, 1> MatrixObject<Cell, N>::PickAt(NdArray<int, 2> const& coords) const {
-  return MatrixObject<Cell, 1>(cells_.PickAtScalars(coords));
+  return MatrixObject<Cell, 1>(cells_.PickAtScalars(coords, DefaultCell<Cell>()));
 }
 
 template <class Cell, int N>

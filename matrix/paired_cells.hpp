@@ -23,7 +23,7 @@ void WalkRuns(std::uint64_t count, Visit& visit, Pointers... pointers) {
 }
 
 // Calls visit(cell, elements...) for each cell in flat order. Sizes are not compared: the cells are counted, and the
-// elements are read by the strides of their arrays. A cell for which a store has no element is left out.
+// elements are read by the strides of their arrays. A cell for which an array has no element is left out.
 template <class Visit, class Cell, int N, class... Elements>
 void ForEachPair(Visit&& visit, NdArray<Cell, N> const& cells, NdArray<Elements, N> const&... arrays) {
   if (!cells.HasElements()) return;

@@ -46,6 +46,7 @@ MPsdExpr<N> EntriesAt(PsdVar& var, NDim<N> const& shape, PositionOf positionOf) 
     if (position >= 0 && position < end) continue;
     return FailedEntries<N>(var, OutOfBound("Index", position, var));
   }
+  var.status.Clear();
   return MPsdExpr<N>(NdArray<PsdExpr, N>::Generated(shape, [&](std::uint64_t i) {
     return EntryAt(var, static_cast<std::uint64_t>(static_cast<std::int64_t>(positionOf(i))));
   }));

@@ -1,15 +1,14 @@
-// The cells of an operand, of which each can be read: an array of numbers without a store reads as zeros, and what a
-// shape reaches outside of the store as a default cell.
+// The cells of an operand, of which each can be read: those of an array without a store read as default cells.
 #pragma once
 
 #include "matrix/operators_kinds.hpp"
-#include "ndarray/within_store.hpp"
+#include "ndarray/with_elements.hpp"
 
 namespace Vorq {
 
 template <class Operand>
 NdArray<OperandCell<Operand>, Operand::kRank> ReadableCells(Operand const& operand) {
-  return WithinStore(CellsOf(operand), DefaultCell<OperandCell<Operand>>());
+  return WithElements(CellsOf(operand), DefaultCell<OperandCell<Operand>>());
 }
 
 }  // namespace Vorq

@@ -86,21 +86,20 @@ class QuadraticEntries {
   std::size_t start_;
 };
 
-// Calls visit(variable, factor) for each term of a linear cell in a product, the lazy ones first. Terms whose factor is
-// zero are passed over, and the constant has no part in it.
+// Calls visit(variable, factor) for each term of a linear cell in a product, the lazy ones first. The constant has no
+// part in it.
 template <class Visit>
 void ForEachFactor(MExpression const& cell, Visit&& visit) {
-  auto const visitNonzero = [&visit](Var const& var, double factor) {
-    if (factor != 0.0) visit(var, factor);
-  };
-  cell.ForEachLazyTerm(visitNonzero);
-  for (std::size_t i = 0; i < cell.expr.coeffs.size(); ++i) visitNonzero(cell.expr.vars[i], cell.expr.coeffs[i]);
+  cell.ForEachLazyTerm(visit);
+  for (std::size_t i = 0; i < cell.expr.coeffs.size(); ++i) visit(cell.expr.vars[i], cell.expr.coeffs[i]);
 }
 
 void AddProducts(StridedVector<MExpression> const& cells, StridedVector<Var> const& vars, std::uint64_t size,
                  double scale, QuadraticEntries& entries) {
   for (std::uint64_t i = 0; i < size; ++i) {
-    ForEachFactor(cells[i], [&](Var const& var, double factor) { entries.Add(var, vars[i], factor * scale); });
+    ForEachFactor(cells[i], [&](Var const& var, double factor) {
+      if (factor != 0.0) entries.Add(var, vars[i], factor * scale);
+    });
   }
 }
 

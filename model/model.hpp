@@ -116,9 +116,7 @@ class Model {
   }
   template <class Item, int N>
   void Remove(MatrixObject<Item, N> const& block) {
-    for (std::uint64_t i = 0; i < block.GetSize(); ++i) {
-      if (Item* item = block.Cells().Find(i)) item->MarkRemoved();
-    }
+    block.Cells().ForEach([](Item& item) { item.MarkRemoved(); });
   }
   // An item that stands for nothing: the result of a failed operation.
   template <class Item>

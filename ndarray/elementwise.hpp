@@ -23,12 +23,9 @@ void MapRun(std::int64_t count, T const* a, std::int64_t stride, R* target, Func
 // The results of function(element), in a compact array.
 template <class R, class T, int N, class Function>
 NdArray<R, N> Map(NdArray<T, N> const& array, Function&& function) {
+  if (!array.HasElements()) return NdArray<R, N>::Filled(array.GetShape(), function(T()));
   auto result = NdArray<R, N>::Fresh(array.GetShape());
   R* target = result.Store().Get();
-  if (!array.StaysWithinStore()) {
-    for (std::uint64_t i = 0; i < result.GetSize(); ++i) *target++ = function(array.Get(i));
-    return result;
-  }
   T const* const store = array.Store().Get();
   ForEachRun(
       [&](std::uint64_t count, Run run) {
@@ -57,12 +54,11 @@ void CombineRun(std::int64_t count, A const* a, std::int64_t aStride, B const* b
 // The results of function(a, b) for the elements at the same place of two arrays of the same sizes, in a compact array.
 template <class R, class A, class B, int N, class Function>
 NdArray<R, N> Combine(NdArray<A, N> const& a, NdArray<B, N> const& b, Function&& function) {
+  if (!a.HasElements() || !b.HasElements()) {
+    return NdArray<R, N>::Generated(a.GetShape(), [&](std::uint64_t i) { return function(a.Get(i), b.Get(i)); });
+  }
   auto result = NdArray<R, N>::Fresh(a.GetShape());
   R* target = result.Store().Get();
-  if (!a.StaysWithinStore() || !b.StaysWithinStore()) {
-    for (std::uint64_t i = 0; i < result.GetSize(); ++i) *target++ = function(a.Get(i), b.Get(i));
-    return result;
-  }
   A const* const aStore = a.Store().Get();
   B const* const bStore = b.Store().Get();
   ForEachRun(

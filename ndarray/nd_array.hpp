@@ -71,19 +71,11 @@ class NdArray {
   NDim<N> const& GetShape() const { return shape_; }
   SharedPtr<T> const& Store() const { return store_; }
 
-  // Whether each position of the shape has an element: indices of views are not checked, so that a shape can reach
-  // beyond the store. The end of foreign memory is not known.
-  bool StaysWithinStore() const {
-    if (GetSize() == 0) return true;
-    if (!HasElements()) return false;
-    std::size_t const count = store_.Block()->count;
-    return count == 0 || shape_.StaysWithin(count);
-  }
-
   // The element at a flat index, which is not checked: it is read by the strides, and null where there is none.
-  T* Find(std::uint64_t index) const {
-    if (!HasElements()) return nullptr;
-    std::int64_t const position = shape_.Position(index);
+  T* Find(std::uint64_t index) const { return HasElements() ? FindAt(shape_.Position(index)) : nullptr; }
+
+  // The element at a position in the store; null where there is none. Only with a store.
+  T* FindAt(std::int64_t position) const {
     std::size_t const count = store_.Block()->count;
     bool const isInside = count == 0 || (position >= 0 && static_cast<std::uint64_t>(position) < count);
     return isInside ? store_.Get() + position : nullptr;
@@ -99,12 +91,10 @@ class NdArray {
     if (element != nullptr && element != &value) *element = value;
   }
 
-  // Calls visit(element) in flat order, for no element when there is no store. A default element stands for one beyond
-  // the store.
+  // Calls visit(element) in flat order, for no element when there is no store.
   template <class Visit>
   void ForEach(Visit&& visit) const {
     if (!HasElements()) return;
-    if (!StaysWithinStore()) return VisitEach(visit);
     T* const store = store_.Get();
     ForEachRun(
         [&](std::uint64_t count, Run run) {
@@ -121,10 +111,11 @@ class NdArray {
 
   void Fill(T const& value);
 
-  // Over the flattened store, which starts at the store's first element, whatever the offset here: that is meant.
-  NdArray<T, 1> Reshape(NDim<1> const& target) const;
-  NdArray<T, 2> Reshape(NDim<2> const& target) const;
-  NdArray<T, 3> Reshape(NDim<3> const& target) const;
+  // Over the flattened store, which starts at the store's first element, whatever the offset here: that is meant. For a
+  // target that reaches beyond the store see View.
+  NdArray<T, 1> Reshape(NDim<1> const& target, T const& standIn = T()) const;
+  NdArray<T, 2> Reshape(NDim<2> const& target, T const& standIn = T()) const;
+  NdArray<T, 3> Reshape(NDim<3> const& target, T const& standIn = T()) const;
 
   // All elements along one axis; shares the store when the shape is contiguous.
   NdArray<T, 1> Flatten() const;
@@ -134,17 +125,21 @@ class NdArray {
   NdArray RepeatBlock(std::uint64_t n, int axis) const { return RepeatAxis(n, axis, true); }
 
   NdArray Transpose() const;
-  NdArray View(Vorq::View const& view) const;
 
-  // Gathers the elements at the flat indices. They are neither checked nor counted from the end.
-  NdArray<T, 1> Pick(NdArray<int, 1> const& indices) const;
+  // Indices of views are not checked. A view that reaches beyond the store, where there is nothing to share, is an
+  // array of its own, in which `standIn` stands for each position without an element.
+  NdArray View(Vorq::View const& view, T const& standIn = T()) const;
+
+  // Gathers the elements at the flat indices. They are neither checked nor counted from the end: `standIn` stands for
+  // an index that leads beyond the store.
+  NdArray<T, 1> Pick(NdArray<int, 1> const& indices, T const& standIn = T()) const;
 
   // Gathers one element a row of `coords`, its entries taken as coordinates as they are.
-  NdArray<T, 1> PickAt(NdArray<int, 2> const& coords) const;
+  NdArray<T, 1> PickAt(NdArray<int, 2> const& coords, T const& standIn = T()) const;
 
   // The same with the entries taken as scalar indices of a view, so that negative ones count from the end. A row with
   // more entries than there are axes picks the first element.
-  NdArray<T, 1> PickAtScalars(NdArray<int, 2> const& coords) const;
+  NdArray<T, 1> PickAtScalars(NdArray<int, 2> const& coords, T const& standIn = T()) const;
 
   Status& GetStatus() { return status_; }
   Status const& GetStatus() const { return status_; }
@@ -154,21 +149,19 @@ class NdArray {
   bool HasElements() const { return static_cast<bool>(store_) && GetSize() != 0; }
 
  private:
-  template <class Visit>
-  void VisitEach(Visit&& visit) const {
-    for (std::uint64_t i = 0; i < GetSize(); ++i) {
-      T standIn{};
-      T* const element = Find(i);
-      visit(element == nullptr ? standIn : *element);
-    }
-  }
+  // The array as it is, or where its shape reaches beyond the store, a compact copy. The end of foreign memory is not
+  // known.
+  NdArray WithinStore(T const& standIn) &&;
 
   template <int M>
-  NdArray<T, M> ReshapeTo(NDim<M> const& target) const;
+  NdArray<T, M> ReshapeTo(NDim<M> const& target, T const& standIn) const;
   NdArray RepeatAxis(std::uint64_t n, int axis, bool wholeRun) const;
   template <class CoordinateOf>
-  NdArray<T, 1> PickRows(NdArray<int, 2> const& coords, CoordinateOf&& coordinateOf) const;
+  NdArray<T, 1> PickRows(NdArray<int, 2> const& coords, T const& standIn, CoordinateOf&& coordinateOf) const;
   void CopyTo(T* target) const;
+
+  template <class, int>
+  friend class NdArray;
 
   NDim<N> shape_;
   SharedPtr<T> store_;

@@ -29,9 +29,7 @@ void NdArray<T, N>::Fill(T const& value) {
 
 template <class T, int N>
 void NdArray<T, N>::CopyTo(T* target) const {
-  if (HasElements() && !StaysWithinStore()) {
-    ForEach([&target](T const& element) { *target++ = element; });
-  } else if (HasElements()) {
+  if (HasElements()) {
     CopyAxes<T>(store_.Get() + shape_.Start(), shape_.GetAxes(), target);
   } else {
     std::fill_n(target, GetSize(), T());
@@ -49,14 +47,21 @@ NdArray<T, 1> NdArray<T, N>::Flatten() const {
 }
 
 template <class T, int N>
+NdArray<T, N> NdArray<T, N>::WithinStore(T const& standIn) && {
+  if (!HasElements()) return std::move(*this);
+  std::size_t const count = store_.Block()->count;
+  if (count == 0 || shape_.StaysWithin(count)) return std::move(*this);
+  return Generated(shape_, [&](std::uint64_t i) {
+    T const* const element = Find(i);
+    return element == nullptr ? standIn : *element;
+  });
+}
+
+template <class T, int N>
 template <int M>
-NdArray<T, M> NdArray<T, N>::ReshapeTo(NDim<M> const& target) const {
+NdArray<T, M> NdArray<T, N>::ReshapeTo(NDim<M> const& target, T const& standIn) const {
   if (target.GetSize() == GetSize() && target.SizeFits()) {
-    NdArray<T, 1> const flat = Flatten();
-    SharedBlock const* block = flat.Store().Block();
-    // A target that is itself a view can reach further than the elements that there are.
-    if (block == nullptr || block->count == 0 || target.StaysWithin(block->count))
-      return NdArray<T, M>(target, flat.Store());
+    return NdArray<T, M>(target, Flatten().Store()).WithinStore(standIn);
   }
   auto result = NdArray<T, M>::OneElement(Get(0));
   SetStatus(result.GetStatus(), kInvalid, "Cannot reshape NdArray of size %zu to new shape %s",
@@ -65,18 +70,18 @@ NdArray<T, M> NdArray<T, N>::ReshapeTo(NDim<M> const& target) const {
 }
 
 template <class T, int N>
-NdArray<T, 1> NdArray<T, N>::Reshape(NDim<1> const& target) const {
-  return ReshapeTo(target);
+NdArray<T, 1> NdArray<T, N>::Reshape(NDim<1> const& target, T const& standIn) const {
+  return ReshapeTo(target, standIn);
 }
 
 template <class T, int N>
-NdArray<T, 2> NdArray<T, N>::Reshape(NDim<2> const& target) const {
-  return ReshapeTo(target);
+NdArray<T, 2> NdArray<T, N>::Reshape(NDim<2> const& target, T const& standIn) const {
+  return ReshapeTo(target, standIn);
 }
 
 template <class T, int N>
-NdArray<T, 3> NdArray<T, N>::Reshape(NDim<3> const& target) const {
-  return ReshapeTo(target);
+NdArray<T, 3> NdArray<T, N>::Reshape(NDim<3> const& target, T const& standIn) const {
+  return ReshapeTo(target, standIn);
 }
 
 template <class T, int N>
@@ -101,9 +106,6 @@ NdArray<T, N> NdArray<T, N>::RepeatAxis(std::uint64_t n, int axis, bool wholeRun
       return result;
     }
     if (n == 0) return result;
-    if (!StaysWithinStore()) {
-      return Generated(shape_, [this](std::uint64_t i) { return Get(i); }).RepeatAxis(n, axis, wholeRun);
-    }
     // Repeating is reading along one more axis with stride 0, in front of the repeated axis or behind it.
     std::array<Axis, N + 1> axes;
     std::size_t const extra = place + (wholeRun ? 0 : 1);
@@ -125,11 +127,11 @@ NdArray<T, N> NdArray<T, N>::Transpose() const {
 }
 
 template <class T, int N>
-NdArray<T, N> NdArray<T, N>::View(Vorq::View const& view) const {
+NdArray<T, N> NdArray<T, N>::View(Vorq::View const& view, T const& standIn) const {
   if constexpr (N == 0) {
     return *this;
   } else {
-    if (view.Operations().size() <= N) return NdArray(shape_.Apply(view), store_);
+    if (view.Operations().size() <= N) return NdArray(shape_.Apply(view), store_).WithinStore(standIn);
     NdArray result = OneElement(Get(0));
     SetStatus(result.status_, kInvalid, "View has more operations than #ND (%d)", N);
     return result;
@@ -137,7 +139,7 @@ NdArray<T, N> NdArray<T, N>::View(Vorq::View const& view) const {
 }
 
 template <class T, int N>
-NdArray<T, 1> NdArray<T, N>::Pick(NdArray<int, 1> const& indices) const {
+NdArray<T, 1> NdArray<T, N>::Pick(NdArray<int, 1> const& indices, T const& standIn) const {
   std::uint64_t const count = indices.GetSize();
   if constexpr (N == 0) {
     return NdArray<T, 1>(NDim<1>::FromAxes({Axis{count, 0, 0}}), NdArray<T, 1>::OneElement(Get(0)).Store());
@@ -145,12 +147,14 @@ NdArray<T, 1> NdArray<T, N>::Pick(NdArray<int, 1> const& indices) const {
     if (!HasElements() || !indices.HasElements()) return NdArray<T, 1>::Filled(NDim<1>({count}), Get(0));
     auto result = NdArray<T, 1>::Fresh(NDim<1>({count}));
     T* target = result.Store().Get();
-    T const* const source = store_.Get();
+    auto const take = [&](std::int64_t position) {
+      T const* const element = FindAt(position);
+      *target++ = element == nullptr ? standIn : *element;
+    };
     if (shape_.IsContiguous()) {
-      T const* const first = source + shape_.Start();
-      indices.ForEach([&](int index) { *target++ = first[index]; });
+      indices.ForEach([&](int index) { take(shape_.Start() + index); });
     } else {
-      indices.ForEach([&](int index) { *target++ = source[shape_.Position(static_cast<std::uint64_t>(index))]; });
+      indices.ForEach([&](int index) { take(shape_.Position(static_cast<std::uint64_t>(index))); });
     }
     return result;
   }
@@ -158,7 +162,8 @@ NdArray<T, 1> NdArray<T, N>::Pick(NdArray<int, 1> const& indices) const {
 
 template <class T, int N>
 template <class CoordinateOf>
-NdArray<T, 1> NdArray<T, N>::PickRows(NdArray<int, 2> const& coords, CoordinateOf&& coordinateOf) const {
+NdArray<T, 1> NdArray<T, N>::PickRows(NdArray<int, 2> const& coords, T const& standIn,
+                                      CoordinateOf&& coordinateOf) const {
   std::uint64_t const count = coords.GetDim(0);
   if constexpr (N == 0) {
     return NdArray<T, 1>(NDim<1>::FromAxes({Axis{count, 0, 0}}), NdArray<T, 1>::OneElement(Get(0)).Store());
@@ -177,22 +182,23 @@ NdArray<T, 1> NdArray<T, N>::PickRows(NdArray<int, 2> const& coords, CoordinateO
         Axis const& axis = shape_.GetAxes()[k];
         position = AddWrapped(position, MultiplyWrapped(coordinateOf(*entry, axis), axis.stride));
       }
-      *target++ = store_.Get()[position];
+      T const* const element = FindAt(position);
+      *target++ = element == nullptr ? standIn : *element;
     }
     return result;
   }
 }
 
 template <class T, int N>
-NdArray<T, 1> NdArray<T, N>::PickAt(NdArray<int, 2> const& coords) const {
-  return PickRows(coords, [](int entry, Axis const&) -> std::int64_t { return entry; });
+NdArray<T, 1> NdArray<T, N>::PickAt(NdArray<int, 2> const& coords, T const& standIn) const {
+  return PickRows(coords, standIn, [](int entry, Axis const&) -> std::int64_t { return entry; });
 }
 
 template <class T, int N>
-NdArray<T, 1> NdArray<T, N>::PickAtScalars(NdArray<int, 2> const& coords) const {
+NdArray<T, 1> NdArray<T, N>::PickAtScalars(NdArray<int, 2> const& coords, T const& standIn) const {
   // With too many entries the view of a row fails, and a failed view holds the first element.
   bool const failed = coords.GetDim(1) > N;
-  return PickRows(coords,
+  return PickRows(coords, standIn,
                   [failed](int entry, Axis const& axis) { return failed ? 0 : NormalizeIndex(entry, axis.size); });
 }
 

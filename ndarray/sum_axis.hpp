@@ -12,7 +12,7 @@
 
 #include "ndarray/nd_array.hpp"
 #include "ndarray/runs.hpp"
-#include "ndarray/within_store.hpp"
+#include "ndarray/with_elements.hpp"
 
 namespace Vorq {
 
@@ -91,7 +91,7 @@ NdArray<T, N - 1> SumAxis(NdArray<T, N> const& array, int axis) {
   if (resultShape.Failed()) return NdArray<T, N - 1>::Failed(T(), std::move(resultShape.GetStatus()));
   auto result = NdArray<T, N - 1>::Filled(resultShape, T());
   if (array.GetSize() == 0) return result;
-  NdArray<T, N> const readable = WithinStore(array, T());
+  NdArray<T, N> const readable = WithElements(array, T());
   NDim<N> const& shape = readable.GetShape();
   if (IsInnermost(shape, axis)) {
     SumRuns(readable.Store().Get(), shape, axis, result.Store().Get());

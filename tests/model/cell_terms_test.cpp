@@ -228,6 +228,13 @@ TEST_F(CellTermsTest, CellsTimesCellsGiveAllPairs) {
   EXPECT_EQ(Quadratic(cell), "20 x0 x4, 28 x0 x5, 30 x1 x4, 42 x1 x5");
 }
 
+TEST_F(CellTermsTest, CellsTimesCellsKeepFactorsOfZero) {
+  MExpression first = LazyCell({0.0}, 0);
+  first.AddTerm(Make<Var>("x1", 1), 3.0);
+  MExpression const second = LazyCell({5.0}, 4);
+  EXPECT_EQ(Quadratic(MQExpression(Vector({first}), Vector({second}))), "0 x0 x4, 15 x1 x4");
+}
+
 TEST_F(CellTermsTest, ASideWithoutAStoreGivesNoProducts) {
   MQExpression const cell(Variables(2, 0), Vorq::NdArray<Var, 1>(Vorq::NDim<1>({2}), {}));
   EXPECT_EQ(Quadratic(cell), "");

@@ -102,6 +102,8 @@ TEST_F(PsdVarMatrixTest, DiagonalsOutsideAreRefused) {
   EXPECT_EQ(Own(none->Get(0))->GetSize(), 0u);
   Own(three_->Diagonal(-2147483647 - 1));
   EXPECT_FAILURE(three_, 3, "(INVALID) Diagonal offset (=-2147483648) is out of bound for dimension 3");
+  Own(three_->Diagonal(0));
+  EXPECT_SUCCESS(three_);
 }
 
 TEST_F(PsdVarMatrixTest, AViewPicksAPartOfTheMatrix) {

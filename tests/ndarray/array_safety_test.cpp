@@ -1,6 +1,7 @@
 // Arrays without elements or without a store, and shapes that do not fit: nothing outside of the store is read.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <new>
 
 #include "ndarray/elementwise.hpp"
@@ -77,6 +78,24 @@ TEST(StorelessArray, AsIndicesPicksTheFirstElement) {
 }
 
 // Indices of views are not checked.
+TEST(ViewBeyondTheStore, IsAnArrayOfItsOwnWithStandInsForMissingElements) {
+  auto array = Counting<int, 1>({3});
+  Vorq::View view;
+  view.Slice(-10, 2, 1, 1);
+  auto partly = array.View(view, 9);
+  EXPECT_EQ(Elements(partly), (Ints{9, 0, 1}));
+  partly.Fill(7);
+  EXPECT_EQ(Elements(partly), (Ints{7, 7, 7}));
+  EXPECT_EQ(Elements(array), (Ints{0, 1, 2}));
+}
+
+TEST(ViewBeyondTheStore, OfAnEmptyArrayHasDefaults) {
+  Vorq::View view;
+  view.Slice(0, 5, 1, 0);
+  auto const five = Counting<int, 1>({0}).View(view);
+  EXPECT_EQ(Elements(five.Repeat(1, 0)), (Ints{0, 0, 0, 0, 0}));
+}
+
 TEST(ViewBeyondTheStore, ReadsDefaultsAndWritesNothing) {
   auto const array = Counting<int, 1>({3});
   Vorq::View view;
@@ -92,12 +111,31 @@ TEST(ViewBeyondTheStore, ReadsDefaultsAndWritesNothing) {
   EXPECT_EQ(Elements(array), (Ints{0, 1, 2}));
 }
 
-TEST(Reshape, ToAShapeThatReachesBeyondTheStoreFails) {
+TEST(ViewBeyondTheStore, AsCoordinatesReadsZeros) {
   auto const array = Counting<int, 1>({3});
-  auto const beyond = array.Reshape(NDim<1>::FromAxes({Axis{3, 2, 0}}));
-  EXPECT_STREQ(beyond.GetErrorMessage(), "(INVALID) Cannot reshape NdArray of size 3 to new shape (3)");
-  auto const before = array.Reshape(NDim<1>::FromAxes({Axis{3, -1, 1}}));
-  EXPECT_STREQ(before.GetErrorMessage(), "(INVALID) Cannot reshape NdArray of size 3 to new shape (3)");
+  Vorq::View view;
+  view.Scalar(5);
+  auto const coords = Counting<int, 2>({2, 1}).View(view);
+  EXPECT_EQ(Elements(array.PickAt(coords)), Ints{0});
+}
+
+// Indices of gathering are not checked either.
+TEST(PickBeyondTheStore, ReadsDefaults) {
+  auto const array = NdArray<int, 1>::Filled(NDim<1>({3}), 4);
+  auto const indices = NdArray<int, 1>::Generated(NDim<1>({3}), [](std::uint64_t i) {
+    return std::array{-1, 1, 3}[i];
+  });
+  EXPECT_EQ(Elements(array.Pick(indices)), (Ints{0, 4, 0}));
+  auto const column = indices.Reshape(NDim<2>({3, 1}));
+  EXPECT_EQ(Elements(array.PickAt(column)), (Ints{0, 4, 0}));
+  auto const square = NdArray<int, 2>::Filled(NDim<2>({2, 2}), 4).Transpose();
+  EXPECT_EQ(Elements(square.Pick(NdArray<int, 1>::Filled(NDim<1>({1}), 9))), Ints{0});
+}
+
+TEST(Reshape, ToAShapeThatReachesBeyondTheStoreHasStandIns) {
+  auto const array = Counting<int, 1>({3});
+  EXPECT_EQ(Elements(array.Reshape(NDim<1>::FromAxes({Axis{3, 2, 0}}), 9)), (Ints{0, 2, 9}));
+  EXPECT_EQ(Elements(array.Reshape(NDim<1>::FromAxes({Axis{3, -1, 1}}), 9)), (Ints{1, 0, 9}));
   EXPECT_EQ(Elements(array.Reshape(NDim<1>::FromAxes({Axis{3, -1, 2}}))), (Ints{2, 1, 0}));
 }
 

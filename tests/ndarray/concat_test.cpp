@@ -8,7 +8,7 @@
 
 #include "ndarray/rank_change.hpp"
 #include "ndarray/view.hpp"
-#include "ndarray/within_store.hpp"
+#include "ndarray/with_elements.hpp"
 #include "tests/ndarray/arrays.hpp"
 
 namespace {
@@ -115,20 +115,15 @@ TEST(ArrayConcat, MoreElementsThanCanBeCountedAreRefused) {
   EXPECT_THROW(static_cast<void>(half.Concat(half, 0).StoreSize()), std::bad_array_new_length);
 }
 
-TEST(ArrayWithinStore, LeavesAnArrayWhoseElementsAreAllThereAsItIs) {
+TEST(ArrayWithElements, LeavesAnArrayWithAStoreAsItIs) {
   auto const array = Counting<int, 2>({2, 3}).Transpose();
-  EXPECT_EQ(Vorq::WithinStore(array, -1).Store(), array.Store());
-  EXPECT_EQ(Vorq::WithinStore(array, -1).GetShape().ToString(Vorq::kStrides), "(1, 3)");
+  EXPECT_EQ(Vorq::WithElements(array, -1).Store(), array.Store());
+  EXPECT_EQ(Vorq::WithElements(array, -1).GetShape().ToString(Vorq::kStrides), "(1, 3)");
 }
 
-TEST(ArrayWithinStore, PositionsOutsideOfTheStoreReadAsTheStandIn) {
-  NdArray<int, 1> const shifted(NDim<1>::FromAxes({Axis{4, 1, -1}}), OfInts<1>({2}, {7, 8}).Store());
-  EXPECT_EQ(Elements(Vorq::WithinStore(shifted, -1)), (Ints{-1, 7, 8, -1}));
-}
-
-TEST(ArrayWithinStore, NoStoreReadsAsTheStandIn) {
+TEST(ArrayWithElements, NoStoreReadsAsTheStandIn) {
   NdArray<int, 2> const none(NDim<2>({1, 2}), {});
-  EXPECT_EQ(Elements(Vorq::WithinStore(none, -1)), (Ints{-1, -1}));
+  EXPECT_EQ(Elements(Vorq::WithElements(none, -1)), (Ints{-1, -1}));
 }
 
 }  // namespace

@@ -84,6 +84,17 @@ TYPED_TEST(EachElementType, WithDataOwnsOneElementAndNone) {
   EXPECT_EQ(Own(Make::kTaken2(new TypeParam[1]{5}, 3, 0))->GetSize(), 0U);
 }
 
+TYPED_TEST(EachElementType, ASliceOfAnEmptyArrayThatWasHandedOverReadsZeros) {
+  auto const none = Own(Factories<TypeParam>::kTaken1(new TypeParam[0], 0));
+  std::unique_ptr<Vorq::IMFactory> const factory(CreateMFactory());
+  auto const view = Own(factory->CreateView());
+  Own(view->Slice(0, 5, 1, 0));
+  auto const five = Own(none->View(view.get()));
+  EXPECT_EQ(five->GetSize(), 5U);
+  five->Set(0, 1);
+  EXPECT_EQ(five->Get(4), TypeParam(0));
+}
+
 TYPED_TEST(EachElementType, NullElementsMakeNoStore) {
   using Make = Factories<TypeParam>;
   for (auto make : {Make::kTaken1, Make::kCallers1}) {

@@ -64,7 +64,7 @@ TEST_F(IisInstancesTest, MixedIntegerInstanceHasAnIrreducibleSet) {
   if (!ReadInstance("mip/stein27_inf.lp")) {
     GTEST_SKIP() << "VORQ_INSTANCES does not name the folder of the instances";
   }
-  Set("TimeLimit", 15.0);
+  Set("TimeLimit", 30.0);
   ASSERT_EQ(VORQ_ComputeIIS(prob), VORQ_OK);
   EXPECT_EQ(Int("HasIIS"), 1);
   if (Int("IsMinIIS") == 1) {
