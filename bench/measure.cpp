@@ -69,6 +69,8 @@ double ProcessorSeconds() {
 }
 
 Cost MeasureHere(std::function<void()> const& work) {
+  // What the process has free would hide what the work takes.
+  malloc_trim(0);
   double const bytes = StatusBytes("VmRSS:");
   std::int64_t const before = allocations.load();
   double const start = ProcessorSeconds();
@@ -109,8 +111,6 @@ Cost Measure(std::function<void()> const& work, std::function<bool()> const& che
 
 Cost MeasurePass(std::function<void()> const& work) {
   constexpr int kPasses = 5;
-  // What the process has free would hide what a pass takes.
-  malloc_trim(0);
   Cost pass = Measure(work);
   Cost const all = Measure([&work] {
     for (int i = 0; i <= kPasses; ++i) work();

@@ -22,7 +22,10 @@ std::size_t SequenceLength(std::string_view text) {
   for (std::size_t i = 1; i < length; ++i) {
     if ((byte(i) & 0xC0) != 0x80) return 0;
   }
-  return length;
+  // Four lead bytes narrow what may follow: overlong forms, surrogates and codes above U+10FFFF are not UTF-8.
+  bool const isTooLow = (byte(0) == 0xE0 && byte(1) < 0xA0) || (byte(0) == 0xF0 && byte(1) < 0x90);
+  bool const isTooHigh = (byte(0) == 0xED && byte(1) > 0x9F) || (byte(0) == 0xF4 && byte(1) > 0x8F);
+  return isTooLow || isTooHigh ? 0 : length;
 }
 
 void AppendEscaped(std::string& out, unsigned char c) {

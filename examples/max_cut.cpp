@@ -10,18 +10,12 @@
 // FILE ends in .cbf. No engine of this version solves semidefinite models; a solver that reads the format does.
 #include <algorithm>
 #include <cstdio>
-#include <memory>
 #include <utility>
 #include <vector>
 
-#include <vorq>
+#include "examples/model_file.hpp"
 
 namespace {
-
-template <class T>
-std::unique_ptr<T> Own(T* object) {
-  return std::unique_ptr<T>(object);
-}
 
 // A cycle of five nodes: no cut has more than four of its edges.
 constexpr int kNodes = 5;
@@ -65,12 +59,6 @@ void Print(char const* what, Vorq::IModel& model) {
               model.GetIntAttr("PSDConstrs"));
 }
 
-bool Failed(Vorq::IModel& model, char const* step) {
-  if (model.GetLastError() == 0) return false;
-  std::fprintf(stderr, "max_cut: %s: %s\n", step, model.GetErrorMessage());
-  return true;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -78,19 +66,5 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "usage: max_cut FILE\n");
     return 2;
   }
-  auto envr = Own(CreateEnvr(nullptr));
-  auto model = Own(CreateModel(envr.get(), "max_cut"));
-  model->SetIntParam("LogToConsole", 0);
-  StateMaxCut(*model);
-  if (Failed(*model, "stating the model")) return 1;
-  Print("stated", *model);
-
-  model->Write(argv[1]);
-  if (Failed(*model, "writing")) return 1;
-  auto copy = Own(CreateModel(envr.get(), "copy"));
-  copy->SetIntParam("LogToConsole", 0);
-  copy->Read(argv[1]);
-  if (Failed(*copy, "reading")) return 1;
-  Print("read back", *copy);
-  return 0;
+  return StateAndReadBack(argv[1], StateMaxCut, Print) == nullptr ? 1 : 0;
 }

@@ -7,16 +7,10 @@
 //
 // FILE ends in .cbf. No engine of this version solves conic models; a solver that reads the format does.
 #include <cstdio>
-#include <memory>
 
-#include <vorq>
+#include "examples/model_file.hpp"
 
 namespace {
-
-template <class T>
-std::unique_ptr<T> Own(T* object) {
-  return std::unique_ptr<T>(object);
-}
 
 constexpr int kAssets = 4;
 double expectedReturn[] = {0.11, 0.09, 0.06, 0.03};
@@ -56,12 +50,6 @@ void Print(char const* what, Vorq::IModel& model) {
               model.GetIntAttr("AffineCones"));
 }
 
-bool Failed(Vorq::IModel& model, char const* step) {
-  if (model.GetLastError() == 0) return false;
-  std::fprintf(stderr, "portfolio: %s: %s\n", step, model.GetErrorMessage());
-  return true;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -69,24 +57,12 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "usage: portfolio FILE\n");
     return 2;
   }
-  auto envr = Own(CreateEnvr(nullptr));
-  auto model = Own(CreateModel(envr.get(), "portfolio"));
-  model->SetIntParam("LogToConsole", 0);
-  StatePortfolio(*model);
-  if (Failed(*model, "stating the model")) return 1;
-  Print("stated", *model);
+  auto model = StateAndReadBack(argv[1], StatePortfolio, Print);
+  if (model == nullptr) return 1;
 
-  model->Write(argv[1]);
-  if (Failed(*model, "writing")) return 1;
-  auto copy = Own(CreateModel(envr.get(), "copy"));
-  copy->SetIntParam("LogToConsole", 0);
-  copy->Read(argv[1]);
-  if (Failed(*copy, "reading")) return 1;
-  Print("read back", *copy);
-
-  auto cone = Own(copy->GetAffineCone(0));
-  auto builder = Own(copy->GetAffineConeBuilder(cone.get()));
+  auto cone = Own(model->GetAffineCone(0));
+  auto builder = Own(model->GetAffineConeBuilder(cone.get()));
   std::printf("the cone has type %d and %d rows, the first of them is %g\n", builder->GetType(), builder->GetDim(),
               Own(builder->GetExpr(0))->GetConstant());
-  return Failed(*copy, "reading the cone") ? 1 : 0;
+  return Failed(*model, "reading the cone") ? 1 : 0;
 }

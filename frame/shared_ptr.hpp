@@ -155,11 +155,11 @@ class SharedPtr {
   static constexpr bool kCanJoin = std::is_class_v<T> && !std::is_abstract_v<T> && !std::is_trivially_destructible_v<T>;
 
   void Retain() const noexcept {
-    if (block_ != nullptr) block_->refs.fetch_add(1);
+    if (block_ != nullptr) block_->Retain();
   }
 
   void Release() noexcept {
-    if (block_ != nullptr && block_->refs.fetch_sub(1) == 1) Destroy();
+    if (block_ != nullptr && block_->Release()) Destroy();
   }
 
   [[gnu::noinline]] void Destroy() noexcept {

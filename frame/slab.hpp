@@ -14,15 +14,8 @@
 #include <cstdint>
 #include <new>
 
+#include "frame/address_sanitizer.hpp"
 #include "frame/chunk_pool.hpp"
-
-#if defined(__SANITIZE_ADDRESS__)
-#define VORQ_PLAIN_SLABS 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define VORQ_PLAIN_SLABS 1
-#endif
-#endif
 
 namespace Vorq {
 
@@ -33,15 +26,8 @@ class Slab {
   static constexpr std::size_t kLargest = 256;
   static constexpr std::size_t kAlignment = alignof(void*);
 
-#ifdef VORQ_PLAIN_SLABS
   static void* Allocate() {
-    return ::operator new(kSize);
-  }
-  static void Release(void* memory) noexcept {
-    ::operator delete(memory);
-  }
-#else
-  static void* Allocate() {
+    if constexpr (kIsAddressSanitized) return ::operator new(kSize);
     Cursor& cursor = cursor_;
     if (cursor.next == cursor.end) [[unlikely]] {
       if (!Refill(cursor)) return AllocateAlone();
@@ -50,6 +36,7 @@ class Slab {
   }
 
   static void Release(void* memory) noexcept {
+    if constexpr (kIsAddressSanitized) return ::operator delete(memory);
     Slot* slot = static_cast<Slot*>(memory);
     Cursor& cursor = cursor_;
     if (slot + 1 == cursor.next) {
@@ -69,9 +56,10 @@ class Slab {
   struct Chunk {
     explicit Chunk(std::uint32_t count) : outstanding(count) {}
 
+    // In front, so that slots whose size divides that of a cache line lie in one line each.
+    Slot slots[kSlots];
     // The slots that are out or not taken yet, and one for the cursor that takes from the chunk.
     std::atomic<std::uint32_t> outstanding;
-    Slot slots[kSlots];
   };
   static_assert(sizeof(Chunk) <= ChunkPool::kChunkSize);
 
@@ -96,13 +84,9 @@ class Slab {
     }
   };
 
-  static Chunk* NewChunk(std::uint32_t outstanding) {
-    return new (ChunkPool::Take()) Chunk(outstanding);
-  }
+  static Chunk* NewChunk(std::uint32_t outstanding) { return new (ChunkPool::Take()) Chunk(outstanding); }
 
-  static Chunk* ChunkOf(Slot* slot) {
-    return reinterpret_cast<Chunk*>(StartOfBlock(slot, ChunkPool::kChunkSize));
-  }
+  static Chunk* ChunkOf(Slot* slot) { return reinterpret_cast<Chunk*>(StartOfBlock(slot, ChunkPool::kChunkSize)); }
 
   static void GiveBack(Chunk* chunk, std::uint32_t count) noexcept {
     if (chunk->outstanding.fetch_sub(count, std::memory_order_acq_rel) == count) ChunkPool::GiveBack(chunk);
@@ -128,14 +112,9 @@ class Slab {
   }
 
   // A chunk for one slot.
-  [[gnu::noinline]] static void* AllocateAlone() {
-    return NewChunk(1)->slots[0].memory;
-  }
+  [[gnu::noinline]] static void* AllocateAlone() { return NewChunk(1)->slots[0].memory; }
 
   [[gnu::tls_model("initial-exec")]] static inline thread_local constinit Cursor cursor_{};
-#endif
 };
 
 }  // namespace Vorq
-
-#undef VORQ_PLAIN_SLABS

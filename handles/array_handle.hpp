@@ -17,7 +17,7 @@ class ArrayHandle : public Handle<Derived, Interface, std::vector<Element>> {
 
   void PushBack(ElementInterface const& element) override { this->Impl().push_back(Unwrap(element)); }
   int Size() override { return static_cast<int>(this->Impl().size()); }
-  ElementInterface* Get(int i) override { return Wrap<ElementInterface>(this->Impl()[static_cast<std::size_t>(i)]); }
+  ElementInterface* Get(int i) override { return Wrap<ElementInterface>(ElementAt(this->Impl(), i)); }
 };
 
 template <class Base>

@@ -3,6 +3,7 @@
 #include "handles/matrix_expressions.hpp"
 #include "handles/matrix_items.hpp"
 #include "handles/nd_array.hpp"
+#include "handles/null_operand.hpp"
 #include "matrix/operators.hpp"
 #include "vorqmodel/exports.h"
 
@@ -33,10 +34,11 @@ template <Operation kOperation, class Left, class Right, int N>
 // It has no state, and so no object behind it.
 class VorqBroadCastHelper final : public Vorq::IBroadCastHelper {
  public:
-#define VORQ_ENTRY(L, R, MAX, operation, Left, Right, Result)                                           \
-  VORQ_KIND(Result, MAX) * operation(VORQ_KIND(Left, L) * left, VORQ_KIND(Right, R) * right) override { \
-    return OperateAndWrap<Operation::k##operation, OperandCells::Left, OperandCells::Right, MAX>(       \
-        Vorq::CellsOf(Vorq::Unwrap(left)), Vorq::CellsOf(Vorq::Unwrap(right)));                         \
+#define VORQ_ENTRY(L, R, MAX, operation, Left, Right, Result)                                                    \
+  VORQ_KIND(Result, MAX) * operation(VORQ_KIND(Left, L) * left, VORQ_KIND(Right, R) * right) override {          \
+    if (int const place = Vorq::NullPlace(left, right)) return Vorq::NullOperand<VORQ_KIND(Result, MAX)>(place); \
+    return OperateAndWrap<Operation::k##operation, OperandCells::Left, OperandCells::Right, MAX>(                \
+        Vorq::CellsOf(Vorq::Unwrap(left)), Vorq::CellsOf(Vorq::Unwrap(right)));                                  \
   }
 #define VORQ_GROUP(operation, Left, Right, Result) VORQ_RANK_PAIRS(VORQ_ENTRY, operation, Left, Right, Result)
 #include "vorqmodel/broadcast_groups.inc"

@@ -19,7 +19,7 @@ class VarListBuilderHandle : public Handle<Derived, Interface, Builder> {
 
   int GetType() override { return this->Impl().type; }
   int GetSize() override { return static_cast<int>(this->Impl().vars.size()); }
-  IVar* GetVar(int i) override { return Wrap<IVar>(this->Impl().vars[static_cast<std::size_t>(i)]); }
+  IVar* GetVar(int i) override { return Wrap<IVar>(Vorq::ElementAt(this->Impl().vars, i)); }
   IVarArray* GetVars() override { return Wrap<IVarArray>(this->Impl().vars); }
 };
 
@@ -28,7 +28,7 @@ class ConeBuilderHandle : public VarListBuilderHandle<Derived, Interface, Builde
  public:
   using VarListBuilderHandle<Derived, Interface, Builder>::VarListBuilderHandle;
 
-  void Set(IVarArray* vars, int type) override { this->Impl().Set(Unwrap(vars), type); }
+  void Set(IVarArray* vars, int type) override { this->Do(VORQ_CALL(Set, vars, type)); }
 };
 
 }  // namespace Vorq
@@ -40,8 +40,8 @@ class VorqConstrBuilder final : public Vorq::Handle<VorqConstrBuilder, Vorq::ICo
   Vorq::IExpr* GetExpr() override { return Vorq::Wrap<Vorq::IExpr>(Impl().expr); }
   char GetSense() override { return Impl().sense; }
   double GetRange() override { return Impl().range; }
-  void Set(Vorq::IExpr* expr, char sense, double rhs) override { Impl().Set(Vorq::Unwrap(expr), sense, rhs); }
-  void SetRange(Vorq::IExpr* expr, double range) override { Impl().SetRange(Vorq::Unwrap(expr), range); }
+  void Set(Vorq::IExpr* expr, char sense, double rhs) override { Do(VORQ_CALL(Set, expr, sense, rhs)); }
+  void SetRange(Vorq::IExpr* expr, double range) override { Do(VORQ_CALL(SetRange, expr, range)); }
 };
 
 class VorqQConstrBuilder final : public Vorq::Handle<VorqQConstrBuilder, Vorq::IQConstrBuilder, Vorq::QConstrBuilder> {
@@ -50,9 +50,7 @@ class VorqQConstrBuilder final : public Vorq::Handle<VorqQConstrBuilder, Vorq::I
 
   Vorq::IQuadExpr* GetQuadExpr() override { return Vorq::Wrap<Vorq::IQuadExpr>(Impl().expr); }
   char GetSense() override { return Impl().sense; }
-  void Set(Vorq::IQuadExpr* quadExpr, char sense, double rhs) override {
-    Impl().Set(Vorq::Unwrap(quadExpr), sense, rhs);
-  }
+  void Set(Vorq::IQuadExpr* quadExpr, char sense, double rhs) override { Do(VORQ_CALL(Set, quadExpr, sense, rhs)); }
 };
 
 class VorqPsdConstrBuilder final
@@ -63,22 +61,20 @@ class VorqPsdConstrBuilder final
   Vorq::IPsdExpr* GetPsdExpr() override { return Vorq::Wrap<Vorq::IPsdExpr>(Impl().expr); }
   char GetSense() override { return Impl().sense; }
   double GetRange() override { return Impl().range; }
-  void Set(Vorq::IPsdExpr* psdExpr, char sense, double rhs) override { Impl().Set(Vorq::Unwrap(psdExpr), sense, rhs); }
-  void SetRange(Vorq::IPsdExpr* psdExpr, double range) override { Impl().SetRange(Vorq::Unwrap(psdExpr), range); }
+  void Set(Vorq::IPsdExpr* psdExpr, char sense, double rhs) override { Do(VORQ_CALL(Set, psdExpr, sense, rhs)); }
+  void SetRange(Vorq::IPsdExpr* psdExpr, double range) override { Do(VORQ_CALL(SetRange, psdExpr, range)); }
 };
 
 class VorqSosBuilder final : public Vorq::VarListBuilderHandle<VorqSosBuilder, Vorq::ISosBuilder, Vorq::SosBuilder> {
  public:
   using VarListBuilderHandle::VarListBuilderHandle;
 
-  double GetWeight(int i) override { return Impl().weights[static_cast<std::size_t>(i)]; }
+  double GetWeight(int i) override { return Vorq::ElementAt(Impl().weights, i); }
   int GetWeights(double* out) override {
-    std::copy(Impl().weights.begin(), Impl().weights.end(), out);
+    if (out != nullptr) std::copy(Impl().weights.begin(), Impl().weights.end(), out);
     return static_cast<int>(Impl().weights.size());
   }
-  void Set(Vorq::IVarArray* vars, double const* weights, int type) override {
-    Impl().Set(Vorq::Unwrap(vars), weights, type);
-  }
+  void Set(Vorq::IVarArray* vars, double const* weights, int type) override { Do(VORQ_CALL(Set, vars, weights, type)); }
 };
 
 class VorqConeBuilder final : public Vorq::ConeBuilderHandle<VorqConeBuilder, Vorq::IConeBuilder, Vorq::ConeBuilder> {
@@ -97,13 +93,16 @@ class VorqGenConstrBuilder final
  public:
   using Handle::Handle;
 
-  Vorq::IVar* GetBinVar() override { return Vorq::Wrap<Vorq::IVar>(Impl().binVar.vars[0]); }
+  Vorq::IVar* GetBinVar() override {
+    auto const& vars = Impl().binVar.vars;
+    return Vorq::Wrap<Vorq::IVar>(vars.empty() ? Vorq::Var() : vars.front());
+  }
   int GetBinVal() override { return Impl().binVal; }
   Vorq::IExpr* GetExpr() override { return Vorq::Wrap<Vorq::IExpr>(Impl().expr); }
   char GetSense() override { return Impl().sense; }
   int GetType() override { return Impl().type; }
   void Set(Vorq::IVar* binVar, int binVal, Vorq::IExpr* expr, char sense, int type) override {
-    Impl().Set(Vorq::Unwrap(binVar), binVal, Vorq::Unwrap(expr), sense, type);
+    Do(VORQ_CALL(Set, binVar, binVal, expr, sense, type));
   }
 };
 

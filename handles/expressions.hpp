@@ -72,19 +72,21 @@ class VorqExpr final : public Vorq::TermListHandle<VorqExpr, Vorq::IExpr, Vorq::
   using TermListHandle::TermListHandle;
 
   std::uint64_t GetSize() override { return Impl().Size(); }
-  Vorq::IVar* GetVar(int i) override { return Vorq::Wrap<Vorq::IVar>(Impl().vars[static_cast<std::size_t>(i)]); }
-  double GetCoeff(int i) override { return Impl().coeffs[static_cast<std::size_t>(i)]; }
+  Vorq::IVar* GetVar(int i) override { return Vorq::Wrap<Vorq::IVar>(Vorq::ElementAt(Impl().vars, i)); }
+  double GetCoeff(int i) override { return Vorq::ElementAt(Impl().coeffs, i); }
   double GetConstant() override { return Impl().constant; }
-  void SetCoeff(int i, double c) override { Impl().coeffs[static_cast<std::size_t>(i)] = c; }
+  void SetCoeff(int i, double c) override {
+    if (double* coeff = Vorq::FindElement(Impl().coeffs, i)) *coeff = c;
+  }
   void SetConstant(double c) override { Impl().constant = c; }
   void AddConstant(double c) override { Impl().AddConstant(c); }
-  void AddTerm(Vorq::IVar* var, double c) override { Impl().AddTerm(Vorq::Unwrap(var), c); }
+  void AddTerm(Vorq::IVar* var, double c) override { Do(VORQ_CALL(AddTerm, var, c)); }
   int AddTerms(Vorq::IVarArray* vars, double* coeffs, int n) override {
-    return Impl().AddTerms(Vorq::Unwrap(vars), coeffs, n);
+    return Ask(-1, VORQ_CALL(AddTerms, vars, coeffs, n));
   }
-  void AddExpr(Vorq::IExpr* other, double mult) override { Impl().AddExpr(Vorq::Unwrap(other), mult); }
+  void AddExpr(Vorq::IExpr* other, double mult) override { Do(VORQ_CALL(AddExpr, other, mult)); }
   double Evaluate() override { return Impl().Evaluate(); }
-  void Remove(Vorq::IVar* var) override { Impl().Remove(Vorq::Unwrap(var)); }
+  void Remove(Vorq::IVar* var) override { Do(VORQ_CALL(Remove, var)); }
   void Clear() override { Impl().Clear(); }
   void Multiply(double c) override { Impl().Multiply(c); }
 };
@@ -96,15 +98,15 @@ class VorqColumn final : public Vorq::TermListHandle<VorqColumn, Vorq::IColumn, 
 
   int GetSize() override { return static_cast<int>(Impl().Size()); }
   Vorq::IConstraint* GetConstr(int i) override {
-    return Vorq::Wrap<Vorq::IConstraint>(Impl().constrs[static_cast<std::size_t>(i)]);
+    return Vorq::Wrap<Vorq::IConstraint>(Vorq::ElementAt(Impl().constrs, i));
   }
-  double GetCoeff(int i) override { return Impl().coeffs[static_cast<std::size_t>(i)]; }
-  void AddTerm(Vorq::IConstraint* constr, double c) override { Impl().AddTerm(Vorq::Unwrap(constr), c); }
+  double GetCoeff(int i) override { return Vorq::ElementAt(Impl().coeffs, i); }
+  void AddTerm(Vorq::IConstraint* constr, double c) override { Do(VORQ_CALL(AddTerm, constr, c)); }
   int AddTerms(Vorq::IConstrArray* constrs, double* coeffs, int n) override {
-    return Impl().AddTerms(Vorq::Unwrap(constrs), coeffs, n);
+    return Ask(-1, VORQ_CALL(AddTerms, constrs, coeffs, n));
   }
-  void AddColumn(Vorq::IColumn* other, double mult) override { Impl().AddColumn(Vorq::Unwrap(other), mult); }
-  int Remove(Vorq::IConstraint* constr) override { return Impl().Remove(Vorq::Unwrap(constr)); }
+  void AddColumn(Vorq::IColumn* other, double mult) override { Do(VORQ_CALL(AddColumn, other, mult)); }
+  int Remove(Vorq::IConstraint* constr) override { return Ask(0, VORQ_CALL(Remove, constr)); }
   void Clear() override { Impl().Clear(); }
 };
 
@@ -114,32 +116,30 @@ class VorqQuadExpr final : public Vorq::TermListHandle<VorqQuadExpr, Vorq::IQuad
   using TermListHandle::TermListHandle;
 
   std::uint64_t GetSize() override { return Impl().Size(); }
-  Vorq::IVar* GetVar1(int i) override { return Vorq::Wrap<Vorq::IVar>(Impl().vars1[static_cast<std::size_t>(i)]); }
-  Vorq::IVar* GetVar2(int i) override { return Vorq::Wrap<Vorq::IVar>(Impl().vars2[static_cast<std::size_t>(i)]); }
-  double GetCoeff(int i) override { return Impl().coeffs[static_cast<std::size_t>(i)]; }
+  Vorq::IVar* GetVar1(int i) override { return Vorq::Wrap<Vorq::IVar>(Vorq::ElementAt(Impl().vars1, i)); }
+  Vorq::IVar* GetVar2(int i) override { return Vorq::Wrap<Vorq::IVar>(Vorq::ElementAt(Impl().vars2, i)); }
+  double GetCoeff(int i) override { return Vorq::ElementAt(Impl().coeffs, i); }
   double GetConstant() override { return Impl().linear.constant; }
   Vorq::IExpr* GetLinExpr() override { return Vorq::Wrap<Vorq::IExpr>(Impl().linear); }
-  void SetCoeff(int i, double c) override { Impl().coeffs[static_cast<std::size_t>(i)] = c; }
+  void SetCoeff(int i, double c) override {
+    if (double* coeff = Vorq::FindElement(Impl().coeffs, i)) *coeff = c;
+  }
   void SetConstant(double c) override { Impl().linear.constant = c; }
   void AddConstant(double c) override { Impl().linear.AddConstant(c); }
-  void AddTerm(Vorq::IVar* var, double c) override { Impl().AddTerm(Vorq::Unwrap(var), c); }
-  void AddTerm(Vorq::IVar* var1, Vorq::IVar* var2, double c) override {
-    Impl().AddTerm(Vorq::Unwrap(var1), Vorq::Unwrap(var2), c);
-  }
+  void AddTerm(Vorq::IVar* var, double c) override { Do(VORQ_CALL(AddTerm, var, c)); }
+  void AddTerm(Vorq::IVar* var1, Vorq::IVar* var2, double c) override { Do(VORQ_CALL(AddTerm, var1, var2, c)); }
   int AddTerms(Vorq::IVarArray* vars, double* coeffs, int n) override {
-    return Impl().AddTerms(Vorq::Unwrap(vars), coeffs, n);
+    return Ask(-1, VORQ_CALL(AddTerms, vars, coeffs, n));
   }
   int AddTerms(Vorq::IVarArray* vars1, Vorq::IVarArray* vars2, double* coeffs, int n) override {
-    return Impl().AddTerms(Vorq::Unwrap(vars1), Vorq::Unwrap(vars2), coeffs, n);
+    return Ask(-1, VORQ_CALL(AddTerms, vars1, vars2, coeffs, n));
   }
-  void AddLinExpr(Vorq::IExpr* expr, double mult) override { Impl().linear.AddExpr(Vorq::Unwrap(expr), mult); }
-  void AddQuadExpr(Vorq::IQuadExpr* other, double mult) override { Impl().AddQuadExpr(Vorq::Unwrap(other), mult); }
-  void AddProduct(Vorq::IExpr* a, Vorq::IExpr* b) override { Impl().AddProduct(Vorq::Unwrap(a), Vorq::Unwrap(b)); }
-  void AddProduct(Vorq::IExpr* expr, Vorq::IVar* var) override {
-    Impl().AddProduct(Vorq::Unwrap(expr), Vorq::Unwrap(var));
-  }
+  void AddLinExpr(Vorq::IExpr* expr, double mult) override { Do(VORQ_CALL_AS(AddLinExpr, linear.AddExpr, expr, mult)); }
+  void AddQuadExpr(Vorq::IQuadExpr* other, double mult) override { Do(VORQ_CALL(AddQuadExpr, other, mult)); }
+  void AddProduct(Vorq::IExpr* a, Vorq::IExpr* b) override { Do(VORQ_CALL(AddProduct, a, b)); }
+  void AddProduct(Vorq::IExpr* expr, Vorq::IVar* var) override { Do(VORQ_CALL(AddProduct, expr, var)); }
   double Evaluate() override { return Impl().Evaluate(); }
-  void Remove(Vorq::IVar* var) override { Impl().Remove(Vorq::Unwrap(var)); }
+  void Remove(Vorq::IVar* var) override { Do(VORQ_CALL(Remove, var)); }
   void Clear() override { Impl().Clear(); }
   void Multiply(double c) override { Impl().Multiply(c); }
 };
@@ -151,19 +151,17 @@ class VorqSymMatExpr final : public Vorq::TermListHandle<VorqSymMatExpr, Vorq::I
 
   int GetDim() override { return Impl().GetDim(); }
   std::uint64_t GetSize() override { return Impl().Size(); }
-  Vorq::ISymMatrix* GetSymMat(int i) override {
-    return Vorq::Wrap<Vorq::ISymMatrix>(Impl().mats[static_cast<std::size_t>(i)]);
+  Vorq::ISymMatrix* GetSymMat(int i) override { return Vorq::Wrap<Vorq::ISymMatrix>(Vorq::ElementAt(Impl().mats, i)); }
+  double GetCoeff(int i) override { return Vorq::ElementAt(Impl().coeffs, i); }
+  void SetCoeff(int i, double c) override {
+    if (double* coeff = Vorq::FindElement(Impl().coeffs, i)) *coeff = c;
   }
-  double GetCoeff(int i) override { return Impl().coeffs[static_cast<std::size_t>(i)]; }
-  void SetCoeff(int i, double c) override { Impl().coeffs[static_cast<std::size_t>(i)] = c; }
-  bool AddTerm(Vorq::ISymMatrix* mat, double c) override { return Impl().AddTerm(Vorq::Unwrap(mat), c); }
+  bool AddTerm(Vorq::ISymMatrix* mat, double c) override { return Ask(false, VORQ_CALL(AddTerm, mat, c)); }
   int AddTerms(Vorq::ISymMatrixArray* mats, double* coeffs, int n) override {
-    return Impl().AddTerms(Vorq::Unwrap(mats), coeffs, n);
+    return Ask(-1, VORQ_CALL(AddTerms, mats, coeffs, n));
   }
-  void AddSymMatExpr(Vorq::ISymMatExpr* other, double mult) override {
-    Impl().AddSymMatExpr(Vorq::Unwrap(other), mult);
-  }
-  void Remove(Vorq::ISymMatrix* mat) override { Impl().Remove(Vorq::Unwrap(mat)); }
+  void AddSymMatExpr(Vorq::ISymMatExpr* other, double mult) override { Do(VORQ_CALL(AddSymMatExpr, other, mult)); }
+  void Remove(Vorq::ISymMatrix* mat) override { Do(VORQ_CALL(Remove, mat)); }
   void Multiply(double c) override { Impl().Multiply(c); }
   int GetLastError() override { return Impl().status.Code(); }
   char const* GetErrorMessage() override { return Impl().status.Text(); }
@@ -175,38 +173,33 @@ class VorqPsdExpr final : public Vorq::TermListHandle<VorqPsdExpr, Vorq::IPsdExp
   using TermListHandle::TermListHandle;
 
   std::uint64_t GetSize() override { return Impl().Size(); }
-  Vorq::IPsdVar* GetPsdVar(int i) override {
-    return Vorq::Wrap<Vorq::IPsdVar>(Impl().vars[static_cast<std::size_t>(i)]);
-  }
+  Vorq::IPsdVar* GetPsdVar(int i) override { return Vorq::Wrap<Vorq::IPsdVar>(Vorq::ElementAt(Impl().vars, i)); }
   Vorq::ISymMatExpr* GetCoeff(int i) override {
-    return Vorq::Wrap<Vorq::ISymMatExpr>(Impl().coeffs[static_cast<std::size_t>(i)]);
+    return Vorq::Wrap<Vorq::ISymMatExpr>(Vorq::ElementAt(Impl().coeffs, i));
   }
   double GetConstant() override { return Impl().linear.constant; }
   Vorq::IExpr* GetLinExpr() override { return Vorq::Wrap<Vorq::IExpr>(Impl().linear); }
   void SetCoeff(int i, Vorq::ISymMatrix* mat) override {
-    Impl().coeffs[static_cast<std::size_t>(i)] = Vorq::SymMatExpr(Vorq::Unwrap(mat));
+    Vorq::SymMatExpr* const coeff = Vorq::FindElement(Impl().coeffs, i);
+    if (coeff != nullptr && mat != nullptr) *coeff = Vorq::SymMatExpr(Vorq::Unwrap(mat));
   }
   void SetConstant(double c) override { Impl().linear.constant = c; }
   void AddConstant(double c) override { Impl().linear.AddConstant(c); }
-  void AddTerm(Vorq::IVar* var, double c) override { Impl().linear.AddTerm(Vorq::Unwrap(var), c); }
-  void AddTerm(Vorq::IPsdVar* var, Vorq::ISymMatrix* mat) override {
-    Impl().AddTerm(Vorq::Unwrap(var), Vorq::Unwrap(mat));
-  }
-  void AddTerm(Vorq::IPsdVar* var, Vorq::ISymMatExpr* expr) override {
-    Impl().AddTerm(Vorq::Unwrap(var), Vorq::Unwrap(expr));
-  }
+  void AddTerm(Vorq::IVar* var, double c) override { Do(VORQ_CALL_AS(AddTerm, linear.AddTerm, var, c)); }
+  void AddTerm(Vorq::IPsdVar* var, Vorq::ISymMatrix* mat) override { Do(VORQ_CALL(AddTerm, var, mat)); }
+  void AddTerm(Vorq::IPsdVar* var, Vorq::ISymMatExpr* expr) override { Do(VORQ_CALL(AddTerm, var, expr)); }
   int AddTerms(Vorq::IVarArray* vars, double* coeffs, int n) override {
-    return Impl().linear.AddTerms(Vorq::Unwrap(vars), coeffs, n);
+    return Ask(-1, VORQ_CALL_AS(AddTerms, linear.AddTerms, vars, coeffs, n));
   }
   int AddTerms(Vorq::IPsdVarArray* vars, Vorq::ISymMatrixArray* mats) override {
-    return Impl().AddTerms(Vorq::Unwrap(vars), Vorq::Unwrap(mats));
+    return Ask(-1, VORQ_CALL(AddTerms, vars, mats));
   }
-  void AddLinExpr(Vorq::IExpr* expr, double mult) override { Impl().linear.AddExpr(Vorq::Unwrap(expr), mult); }
-  void AddPsdExpr(Vorq::IPsdExpr* other, double mult) override { Impl().AddPsdExpr(Vorq::Unwrap(other), mult); }
+  void AddLinExpr(Vorq::IExpr* expr, double mult) override { Do(VORQ_CALL_AS(AddLinExpr, linear.AddExpr, expr, mult)); }
+  void AddPsdExpr(Vorq::IPsdExpr* other, double mult) override { Do(VORQ_CALL(AddPsdExpr, other, mult)); }
   void AddMExpression(Vorq::IMExpression* cell, double mult) override;  // defined with the handles on cells
   double Evaluate() override { return Impl().Evaluate(); }
-  void Remove(Vorq::IVar* var) override { Impl().linear.Remove(Vorq::Unwrap(var)); }
-  void Remove(Vorq::IPsdVar* var) override { Impl().Remove(Vorq::Unwrap(var)); }
+  void Remove(Vorq::IVar* var) override { Do(VORQ_CALL_AS(Remove, linear.Remove, var)); }
+  void Remove(Vorq::IPsdVar* var) override { Do(VORQ_CALL(Remove, var)); }
   void Multiply(double c) override { Impl().Multiply(c); }
 };
 
@@ -216,26 +209,25 @@ class VorqLmiExpr final : public Vorq::TermListHandle<VorqLmiExpr, Vorq::ILmiExp
   using TermListHandle::TermListHandle;
 
   std::uint64_t GetSize() override { return Impl().Size(); }
-  Vorq::IVar* GetVar(int i) override { return Vorq::Wrap<Vorq::IVar>(Impl().vars[static_cast<std::size_t>(i)]); }
+  Vorq::IVar* GetVar(int i) override { return Vorq::Wrap<Vorq::IVar>(Vorq::ElementAt(Impl().vars, i)); }
   Vorq::ISymMatExpr* GetCoeff(int i) override {
-    return Vorq::Wrap<Vorq::ISymMatExpr>(Impl().coeffs[static_cast<std::size_t>(i)]);
+    return Vorq::Wrap<Vorq::ISymMatExpr>(Vorq::ElementAt(Impl().coeffs, i));
   }
   Vorq::ISymMatExpr* GetConstant() override { return Vorq::Wrap<Vorq::ISymMatExpr>(Impl().constant); }
   void SetCoeff(int i, Vorq::ISymMatrix* mat) override {
-    Impl().coeffs[static_cast<std::size_t>(i)] = Vorq::SymMatExpr(Vorq::Unwrap(mat));
+    Vorq::SymMatExpr* const coeff = Vorq::FindElement(Impl().coeffs, i);
+    if (coeff != nullptr && mat != nullptr) *coeff = Vorq::SymMatExpr(Vorq::Unwrap(mat));
   }
-  void SetConstant(Vorq::ISymMatrix* mat) override { Impl().constant = Vorq::SymMatExpr(Vorq::Unwrap(mat)); }
-  void AddConstant(Vorq::ISymMatExpr* expr) override { Impl().AddConstant(Vorq::Unwrap(expr)); }
-  void AddTerm(Vorq::IVar* var, Vorq::ISymMatrix* mat) override {
-    Impl().AddTerm(Vorq::Unwrap(var), Vorq::Unwrap(mat));
+  void SetConstant(Vorq::ISymMatrix* mat) override {
+    if (mat != nullptr) Impl().constant = Vorq::SymMatExpr(Vorq::Unwrap(mat));
   }
-  void AddTerm(Vorq::IVar* var, Vorq::ISymMatExpr* expr) override {
-    Impl().AddTerm(Vorq::Unwrap(var), Vorq::Unwrap(expr));
-  }
+  void AddConstant(Vorq::ISymMatExpr* expr) override { Do(VORQ_CALL(AddConstant, expr)); }
+  void AddTerm(Vorq::IVar* var, Vorq::ISymMatrix* mat) override { Do(VORQ_CALL(AddTerm, var, mat)); }
+  void AddTerm(Vorq::IVar* var, Vorq::ISymMatExpr* expr) override { Do(VORQ_CALL(AddTerm, var, expr)); }
   int AddTerms(Vorq::IVarArray* vars, Vorq::ISymMatrixArray* mats) override {
-    return Impl().AddTerms(Vorq::Unwrap(vars), Vorq::Unwrap(mats));
+    return Ask(-1, VORQ_CALL(AddTerms, vars, mats));
   }
-  void AddLmiExpr(Vorq::ILmiExpr* other, double mult) override { Impl().AddLmiExpr(Vorq::Unwrap(other), mult); }
-  void Remove(Vorq::IVar* var) override { Impl().Remove(Vorq::Unwrap(var)); }
+  void AddLmiExpr(Vorq::ILmiExpr* other, double mult) override { Do(VORQ_CALL(AddLmiExpr, other, mult)); }
+  void Remove(Vorq::IVar* var) override { Do(VORQ_CALL(Remove, var)); }
   void Multiply(double c) override { Impl().Multiply(c); }
 };

@@ -124,7 +124,7 @@ class VorqLmiConstraint final
  public:
   using MatrixItemHandle::MatrixItemHandle;
 
-  void SetRhs(Vorq::ISymMatrix* matrix) override { Impl().SetRhs(Vorq::Unwrap(matrix)); }
+  void SetRhs(Vorq::ISymMatrix* matrix) override { Do(VORQ_CALL(SetRhs, matrix)); }
 };
 
 class VorqGenConstr final : public Vorq::NamedItemHandle<VorqGenConstr, Vorq::IGenConstr, Vorq::GenConstr> {

@@ -5,7 +5,7 @@
 #include "vorqmodel/exports.h"
 
 void VorqPsdExpr::AddMExpression(Vorq::IMExpression* cell, double mult) {
-  Vorq::AddMExpression(Impl(), Vorq::Unwrap(cell), mult);
+  if (cell != nullptr) Vorq::AddMExpression(Impl(), Vorq::Unwrap(cell), mult);
 }
 
 extern "C" {

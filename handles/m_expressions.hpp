@@ -35,8 +35,8 @@ class CellHandle : public Handle<Derived, Interface, Cell> {
 
   double GetConstant() override { return this->Impl().GetConstant(); }
   void AddConstant(double c) override { this->Impl().AddConstant(c); }
-  void AddTerm(IVar* v, double c) override { this->Impl().AddTerm(Unwrap(v), c); }
-  void AddMExpression(IMExpression* m, double c) override;
+  void AddTerm(IVar* v, double c) override { this->Do(VORQ_CALL(AddTerm, v, c)); }
+  void AddMExpression(IMExpression* m, double c) override { this->Do(VORQ_CALL(AddMExpression, m, c)); }
   void Multiply(double c) override { this->Impl().Multiply(c); }
   Interface* Clone() override { return Wrap<Interface>(this->Impl()); }
   std::string ToString(std::uint64_t limit) override { return this->Impl().ToString(limit); }
@@ -49,7 +49,7 @@ class VorqMExpression final : public Vorq::CellHandle<VorqMExpression, Vorq::IME
   using CellHandle::CellHandle;
 
   void SetConstant(double c) override { Impl().SetConstant(c); }
-  void AddExpr(Vorq::IExpr* e, double c) override { Impl().AddExpr(Vorq::Unwrap(e), c); }
+  void AddExpr(Vorq::IExpr* e, double c) override { Do(VORQ_CALL(AddExpr, e, c)); }
 };
 
 class VorqMQExpression final : public Vorq::CellHandle<VorqMQExpression, Vorq::IMQExpression, Vorq::MQExpression> {
@@ -57,28 +57,13 @@ class VorqMQExpression final : public Vorq::CellHandle<VorqMQExpression, Vorq::I
   using CellHandle::AddTerm;
   using CellHandle::CellHandle;
 
-  void AddTerm(Vorq::IVar* first, Vorq::IVar* second, double c) override {
-    Impl().AddTerm(Vorq::Unwrap(first), Vorq::Unwrap(second), c);
-  }
-  void AddLinExpr(Vorq::IExpr* e, double c) override { Impl().AddLinExpr(Vorq::Unwrap(e), c); }
-  void AddQuadExpr(Vorq::IQuadExpr* q, double c) override { Impl().AddQuadExpr(Vorq::Unwrap(q), c); }
-  void AddProduct(Vorq::IMExpression* m, Vorq::IVar* v) override {
-    Impl().AddProduct(Vorq::Unwrap(m), Vorq::Unwrap(v));
-  }
-  void AddProduct(Vorq::IMExpression* m, Vorq::IExpr* e) override {
-    Impl().AddProduct(Vorq::Unwrap(m), Vorq::Unwrap(e));
-  }
+  void AddTerm(Vorq::IVar* first, Vorq::IVar* second, double c) override { Do(VORQ_CALL(AddTerm, first, second, c)); }
+  void AddLinExpr(Vorq::IExpr* e, double c) override { Do(VORQ_CALL(AddLinExpr, e, c)); }
+  void AddQuadExpr(Vorq::IQuadExpr* q, double c) override { Do(VORQ_CALL(AddQuadExpr, q, c)); }
+  void AddProduct(Vorq::IMExpression* m, Vorq::IVar* v) override { Do(VORQ_CALL(AddProduct, m, v)); }
+  void AddProduct(Vorq::IMExpression* m, Vorq::IExpr* e) override { Do(VORQ_CALL(AddProduct, m, e)); }
   void AddProduct(Vorq::IMExpression* a, Vorq::IMExpression* b, double c) override {
-    Impl().AddProduct(Vorq::Unwrap(a), Vorq::Unwrap(b), c);
+    Do(VORQ_CALL(AddProduct, a, b, c));
   }
-  void AddMQExpression(Vorq::IMQExpression* m, double c) override { Impl().AddMQExpression(Vorq::Unwrap(m), c); }
+  void AddMQExpression(Vorq::IMQExpression* m, double c) override { Do(VORQ_CALL(AddMQExpression, m, c)); }
 };
-
-namespace Vorq {
-
-template <class Derived, class Interface, class Cell>
-void CellHandle<Derived, Interface, Cell>::AddMExpression(IMExpression* m, double c) {
-  this->Impl().AddMExpression(Unwrap(m), c);
-}
-
-}  // namespace Vorq

@@ -43,7 +43,7 @@ class BlockBuilderHandle : public Handle<Derived, IBuilder<N>, MatrixConstrBuild
   int GetND() override { return N; }
   IBlock* GetExpr() override { return Wrap<IBlock>(this->Impl().expr); }
   char GetSense() override { return this->Impl().sense; }
-  void Set(IBlock* lhs, char sense, double rhs) override { this->Impl().Set(Unwrap(lhs), sense, rhs); }
+  void Set(IBlock* lhs, char sense, double rhs) override { this->Do(VORQ_CALL(Set, lhs, sense, rhs)); }
   void Set(IBlock* lhs, char sense, INdArray<double, N>* rhs) override { SetFolded(lhs, sense, rhs); }
   void Set(IBlock* lhs, char sense, INdArray<long long, N>* rhs) override { SetFolded(lhs, sense, rhs); }
   void Set(IBlock* lhs, char sense, INdArray<int, N>* rhs) override { SetFolded(lhs, sense, rhs); }
@@ -61,7 +61,7 @@ class BlockBuilderHandle : public Handle<Derived, IBuilder<N>, MatrixConstrBuild
  protected:
   template <class IRightSide>
   void SetFolded(IBlock* lhs, char sense, IRightSide* rhs) {
-    this->Impl().Set(Unwrap(lhs), sense, Unwrap(rhs));
+    this->Do(VORQ_CALL(Set, lhs, sense, rhs));
   }
 };
 
@@ -87,7 +87,7 @@ class RangedBuilderHandle : public Base {
   using typename Base::IBlock;
 
   double GetRange() override { return this->Impl().range; }
-  void SetRange(IBlock* expr, double range) override { this->Impl().SetRange(Unwrap(expr), range); }
+  void SetRange(IBlock* expr, double range) override { this->Do(VORQ_CALL(SetRange, expr, range)); }
 };
 
 }  // namespace Vorq

@@ -6,10 +6,12 @@
 template <int N>
 class VorqMLinExpr final
     : public Vorq::ExpressionBlockHandle<Vorq::BlockHandle<VorqMLinExpr<N>, Vorq::MExpression, N>> {
- public:
-  using Vorq::ExpressionBlockHandle<Vorq::BlockHandle<VorqMLinExpr<N>, Vorq::MExpression, N>>::ExpressionBlockHandle;
+  using Base = Vorq::ExpressionBlockHandle<Vorq::BlockHandle<VorqMLinExpr<N>, Vorq::MExpression, N>>;
 
-  void AddExpr(Vorq::IExpr* e, double c) override { this->AddToEach(Vorq::Unwrap(e), c); }
+ public:
+  using Base::Base;
+
+  void AddExpr(Vorq::IExpr* e, double c) override { this->Do(VORQ_CALL_BY(AddExpr, Base::kAddToEach, e, c)); }
 };
 
 template <int N>
@@ -22,14 +24,21 @@ class VorqMQuadExpr final
   using Base::Base;
 
   void AddTerm(Vorq::IVar* first, Vorq::IVar* second, double c) override {
-    this->Impl().ForEach([&var1 = Vorq::Unwrap(first), &var2 = Vorq::Unwrap(second), c](Vorq::MQExpression& cell) {
-      cell.AddTerm(var1, var2, c);
-    });
+    constexpr auto kAddEach = [](auto& block, Vorq::Var const& var1, Vorq::Var const& var2, double coefficient) {
+      block.ForEach([&](Vorq::MQExpression& cell) { cell.AddTerm(var1, var2, coefficient); });
+    };
+    this->Do(VORQ_CALL_BY(AddTerm, kAddEach, first, second, c));
   }
-  void AddLinExpr(Vorq::IExpr* e, double c) override { this->AddToEach(Vorq::Unwrap(e), c); }
-  void AddQuadExpr(Vorq::IQuadExpr* q, double c) override { this->AddToEach(Vorq::Unwrap(q), c); }
-  void AddMQExpression(Vorq::IMQExpression* m, double c) override { this->AddToEach(Vorq::Unwrap(m), c); }
-  void AddMQuadExpr(Vorq::IMQuadExpr<N>* other, double c) override { this->Impl().AddBlock(Vorq::Unwrap(other), c); }
+  void AddLinExpr(Vorq::IExpr* e, double c) override { this->Do(VORQ_CALL_BY(AddLinExpr, Base::kAddToEach, e, c)); }
+  void AddQuadExpr(Vorq::IQuadExpr* q, double c) override {
+    this->Do(VORQ_CALL_BY(AddQuadExpr, Base::kAddToEach, q, c));
+  }
+  void AddMQExpression(Vorq::IMQExpression* m, double c) override {
+    this->Do(VORQ_CALL_BY(AddMQExpression, Base::kAddToEach, m, c));
+  }
+  void AddMQuadExpr(Vorq::IMQuadExpr<N>* other, double c) override {
+    this->Do(VORQ_CALL_AS(AddMQuadExpr, AddBlock, other, c));
+  }
 };
 
 template <int N>
@@ -42,19 +51,21 @@ class VorqMPsdExpr final : public Vorq::ExpressionBlockHandle<Vorq::BlockHandle<
   using Base::Set;
 
   void Set(std::uint64_t index, Vorq::IMExpression* value) override {
-    this->Impl().Set(index, Vorq::PsdExprOf(Vorq::Unwrap(value)));
+    constexpr auto kSet = [](auto& block, std::uint64_t i, auto const& cell) { block.Set(i, Vorq::PsdExprOf(cell)); };
+    this->Do(VORQ_CALL_BY(Set, kSet, index, value));
   }
-  void AddTerm(Vorq::IPsdVar* v, Vorq::ISymMatrix* m) override { AddPsdTerm(Vorq::Unwrap(v), Vorq::Unwrap(m)); }
-  void AddTerm(Vorq::IPsdVar* v, Vorq::ISymMatExpr* e) override { AddPsdTerm(Vorq::Unwrap(v), Vorq::Unwrap(e)); }
-  void AddLinExpr(Vorq::IExpr* e, double c) override { this->AddToEach(Vorq::Unwrap(e), c); }
-  void AddPsdExpr(Vorq::IPsdExpr* p, double c) override { this->AddToEach(Vorq::Unwrap(p), c); }
-  void AddMPsdExpr(Vorq::IMPsdExpr<N>* other, double c) override { this->Impl().AddBlock(Vorq::Unwrap(other), c); }
+  void AddTerm(Vorq::IPsdVar* v, Vorq::ISymMatrix* m) override { this->Do(VORQ_CALL_BY(AddTerm, kAddPsdTerm, v, m)); }
+  void AddTerm(Vorq::IPsdVar* v, Vorq::ISymMatExpr* e) override { this->Do(VORQ_CALL_BY(AddTerm, kAddPsdTerm, v, e)); }
+  void AddLinExpr(Vorq::IExpr* e, double c) override { this->Do(VORQ_CALL_BY(AddLinExpr, Base::kAddToEach, e, c)); }
+  void AddPsdExpr(Vorq::IPsdExpr* p, double c) override { this->Do(VORQ_CALL_BY(AddPsdExpr, Base::kAddToEach, p, c)); }
+  void AddMPsdExpr(Vorq::IMPsdExpr<N>* other, double c) override {
+    this->Do(VORQ_CALL_AS(AddMPsdExpr, AddBlock, other, c));
+  }
 
  private:
-  template <class Matrix>
-  void AddPsdTerm(Vorq::PsdVar const& var, Matrix const& matrix) {
-    this->Impl().ForEach([&var, &matrix](Vorq::PsdExpr& cell) { cell.AddTerm(var, matrix); });
-  }
+  static constexpr auto kAddPsdTerm = [](auto& block, Vorq::PsdVar const& var, auto const& matrix) {
+    block.ForEach([&var, &matrix](Vorq::PsdExpr& cell) { cell.AddTerm(var, matrix); });
+  };
 };
 
 #define VORQ_EXPRESSION_BLOCK_HANDLES(N)  \

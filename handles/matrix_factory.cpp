@@ -7,6 +7,7 @@
 #include "handles/matrix_expressions.hpp"
 #include "handles/matrix_items.hpp"
 #include "handles/nd_array.hpp"
+#include "handles/null_operand.hpp"
 #include "handles/shapes.hpp"
 #include "handles/views.hpp"
 #include "matrix/factory.hpp"
@@ -16,23 +17,16 @@ using namespace Vorq;
 
 namespace {
 
-template <class Argument>
-decltype(auto) UnwrapArgument(Argument const& argument) {
-  if constexpr (std::is_pointer_v<Argument>) {
-    return Unwrap(argument);
-  } else {
-    return argument;
-  }
-}
-
 template <class Result, int N, class Argument>
 Result* CreateBlock(INDim<N>* shape, Argument argument) {
   using Cell = typename HandleTraits<Result>::Handle::Impl_t::Cell;
+  if (int const place = NullPlace(shape, argument)) return NullOperand<Result>(place);
   return WrapBlock(MakeBlock<Cell>(Unwrap(shape), UnwrapArgument(argument)));
 }
 
 template <class T, int N, class... Arguments>
 INdArray<T, N>* CreateArray(INDim<N>* shape, Arguments... arguments) {
+  if (shape == nullptr) return NullOperand<INdArray<T, N>>(1);
   return WrapArray(MakeArray(Unwrap(shape), arguments...));
 }
 
@@ -43,6 +37,12 @@ INDim<N>* CreateShape(typename NDim<N>::Sizes const& sizes) {
 
 template <class Result, class... Arguments>
 Result* CreateSingle(Arguments const&... arguments) {
+  if (int const place = NullPlace(arguments...)) {
+    Result* const failed = NullOperand<Result>(place);
+    // Builders carry the failure; cells have no status.
+    if (Status* status = StatusOf(Unwrap(failed))) SetStatus(*status, kInvalid, "Operand %d is null", place);
+    return failed;
+  }
   return Wrap<Result>(UnwrapArgument(arguments)...);
 }
 

@@ -140,16 +140,20 @@ class BlockHandle : public Handle<Derived, IMatrixObject<CellType, N>, MatrixObj
   std::uint64_t GetDim(int axis) override { return this->Impl().GetDim(axis); }
   std::uint64_t GetSize() override { return this->Impl().GetSize(); }
   INDim<N>* GetShape() override { return Wrap<INDim<N>>(this->Impl().GetShape()); }
-  IBlock<1>* Reshape(INDim<1>* shape) override { return WrapBlock(this->Impl().Reshape(Unwrap(shape))); }
-  IBlock<2>* Reshape(INDim<2>* shape) override { return WrapBlock(this->Impl().Reshape(Unwrap(shape))); }
-  IBlock<3>* Reshape(INDim<3>* shape) override { return WrapBlock(this->Impl().Reshape(Unwrap(shape))); }
+  IBlock<1>* Reshape(INDim<1>* shape) override { return this->template Make<IBlock<1>>(VORQ_CALL(Reshape, shape)); }
+  IBlock<2>* Reshape(INDim<2>* shape) override { return this->template Make<IBlock<2>>(VORQ_CALL(Reshape, shape)); }
+  IBlock<3>* Reshape(INDim<3>* shape) override { return this->template Make<IBlock<3>>(VORQ_CALL(Reshape, shape)); }
   IBlock<1>* Flatten() override { return WrapBlock(this->Impl().Flatten()); }
   IBlock<N>* Transpose() override { return WrapBlock(this->Impl().Transpose()); }
   ICell* Get(std::uint64_t index) override { return Wrap<ICell>(this->Impl().Get(index)); }
-  IBlock<N>* View(IView* view) override { return WrapBlock(this->Impl().View(Unwrap(view))); }
-  IBlock<1>* Pick(INdArray<int, 1>* indices) override { return WrapBlock(this->Impl().Pick(Unwrap(indices))); }
-  IBlock<1>* PickAt(INdArray<int, 2>* coords) override { return WrapBlock(this->Impl().PickAt(Unwrap(coords))); }
-  void Set(std::uint64_t index, ICell* value) override { this->Impl().Set(index, Unwrap(value)); }
+  IBlock<N>* View(IView* view) override { return this->template Make<IBlock<N>>(VORQ_CALL(View, view)); }
+  IBlock<1>* Pick(INdArray<int, 1>* indices) override {
+    return this->template Make<IBlock<1>>(VORQ_CALL(Pick, indices));
+  }
+  IBlock<1>* PickAt(INdArray<int, 2>* coords) override {
+    return this->template Make<IBlock<1>>(VORQ_CALL(PickAt, coords));
+  }
+  void Set(std::uint64_t index, ICell* value) override { this->Do(VORQ_CALL(Set, index, value)); }
   IBlock<N>* Clone() override { return WrapBlock(this->Impl().Clone()); }
   std::string ToString(std::uint64_t limit) override { return this->Impl().ToString(limit); }
   int GetLastError() override { return this->Impl().GetLastError(); }
@@ -195,7 +199,10 @@ class ItemBlockHandle : public Base {
     this->Impl().ForEach([attr, value](Cell& cell) { cell.Set(attr, value); });
   }
   void Set(char const* attr, INumbers<double>* values) override {
-    this->Impl().ForEachWith([attr](Cell& cell, double value) { cell.Set(attr, value); }, Unwrap(values));
+    auto const setEach = [](auto& block, char const* name, auto const& numbers) {
+      block.ForEachWith([name](Cell& cell, double value) { cell.Set(name, value); }, numbers);
+    };
+    this->Do(VORQ_CALL_BY(Set, setEach, attr, values));
   }
 
  protected:
@@ -240,29 +247,41 @@ class ExpressionBlockHandle : public SummableBlockHandle<Base> {
   void AddConstant(double c) override {
     this->Impl().ForEach([c](Cell& cell) { LinearPart(cell).AddConstant(c); });
   }
-  void AddConstant(INdArray<double, kRank>* values) override { this->Impl().AddConstants(Unwrap(values)); }
-  void AddConstant(INdArray<long long, kRank>* values) override { this->Impl().AddConstants(Unwrap(values)); }
-  void AddConstant(INdArray<int, kRank>* values) override { this->Impl().AddConstants(Unwrap(values)); }
-  void SubConstant(INdArray<double, kRank>* values) override { this->Impl().SubConstants(Unwrap(values)); }
-  void SubConstant(INdArray<long long, kRank>* values) override { this->Impl().SubConstants(Unwrap(values)); }
-  void SubConstant(INdArray<int, kRank>* values) override { this->Impl().SubConstants(Unwrap(values)); }
-  void AddTerm(IVar* v, double c) override { AddToEach(Unwrap(v), c); }
-  void AddTerm(IMVar<kRank>* vars, double c) override { this->Impl().AddBlock(Unwrap(vars), c); }
-  void AddTerm(IMVar<kRank>* vars, INdArray<double, kRank>* coeffs) override {
-    this->Impl().ForEachWith([](Cell& cell, Var const& var, double c) { AddCell(cell, var, c); }, Unwrap(vars).Cells(),
-                             Unwrap(coeffs));
+  void AddConstant(INdArray<double, kRank>* values) override {
+    this->Do(VORQ_CALL_AS(AddConstant, AddConstants, values));
   }
-  void AddMExpression(IMExpression* m, double c) override { AddToEach(Unwrap(m), c); }
-  void AddMLinExpr(IMLinExpr<kRank>* other, double c) override { this->Impl().AddBlock(Unwrap(other), c); }
+  void AddConstant(INdArray<long long, kRank>* values) override {
+    this->Do(VORQ_CALL_AS(AddConstant, AddConstants, values));
+  }
+  void AddConstant(INdArray<int, kRank>* values) override { this->Do(VORQ_CALL_AS(AddConstant, AddConstants, values)); }
+  void SubConstant(INdArray<double, kRank>* values) override {
+    this->Do(VORQ_CALL_AS(SubConstant, SubConstants, values));
+  }
+  void SubConstant(INdArray<long long, kRank>* values) override {
+    this->Do(VORQ_CALL_AS(SubConstant, SubConstants, values));
+  }
+  void SubConstant(INdArray<int, kRank>* values) override { this->Do(VORQ_CALL_AS(SubConstant, SubConstants, values)); }
+  void AddTerm(IVar* v, double c) override { this->Do(VORQ_CALL_BY(AddTerm, kAddToEach, v, c)); }
+  void AddTerm(IMVar<kRank>* vars, double c) override { this->Do(VORQ_CALL_AS(AddTerm, AddBlock, vars, c)); }
+  void AddTerm(IMVar<kRank>* vars, INdArray<double, kRank>* coeffs) override {
+    constexpr auto kAddEach = [](auto& block, auto const& variables, auto const& numbers) {
+      block.ForEachWith([](Cell& cell, Var const& var, double c) { AddCell(cell, var, c); }, variables.Cells(),
+                        numbers);
+    };
+    this->Do(VORQ_CALL_BY(AddTerm, kAddEach, vars, coeffs));
+  }
+  void AddMExpression(IMExpression* m, double c) override { this->Do(VORQ_CALL_BY(AddMExpression, kAddToEach, m, c)); }
+  void AddMLinExpr(IMLinExpr<kRank>* other, double c) override {
+    this->Do(VORQ_CALL_AS(AddMLinExpr, AddBlock, other, c));
+  }
   void Clear() override {
     this->Impl().ForEach([](Cell& cell) { cell = Cell(); });
   }
 
  protected:
-  template <class Addend>
-  void AddToEach(Addend const& addend, double c) {
-    this->Impl().ForEach([&addend, c](Cell& cell) { AddCell(cell, addend, c); });
-  }
+  static constexpr auto kAddToEach = [](auto& block, auto const& addend, double c) {
+    block.ForEach([&addend, c](Cell& cell) { AddCell(cell, addend, c); });
+  };
 };
 
 }  // namespace Vorq

@@ -11,33 +11,33 @@ class VorqModel final : public VorqModelSolving {
   using VorqModelSolving::VorqModelSolving;
 
   // Removal: lazy, carried out by the next operation that needs the solver library's numbering.
-  void Remove(Vorq::IMVar<0>* block) override { RemoveBlock(block); }
-  void Remove(Vorq::IMVar<1>* block) override { RemoveBlock(block); }
-  void Remove(Vorq::IMVar<2>* block) override { RemoveBlock(block); }
-  void Remove(Vorq::IMVar<3>* block) override { RemoveBlock(block); }
-  void Remove(Vorq::IMConstr<0>* block) override { RemoveBlock(block); }
-  void Remove(Vorq::IMConstr<1>* block) override { RemoveBlock(block); }
-  void Remove(Vorq::IMConstr<2>* block) override { RemoveBlock(block); }
-  void Remove(Vorq::IMConstr<3>* block) override { RemoveBlock(block); }
-  void Remove(Vorq::IMQConstr<0>* block) override { RemoveBlock(block); }
-  void Remove(Vorq::IMQConstr<1>* block) override { RemoveBlock(block); }
-  void Remove(Vorq::IMQConstr<2>* block) override { RemoveBlock(block); }
-  void Remove(Vorq::IMQConstr<3>* block) override { RemoveBlock(block); }
-  void Remove(Vorq::IMPsdConstr<0>* block) override { RemoveBlock(block); }
-  void Remove(Vorq::IMPsdConstr<1>* block) override { RemoveBlock(block); }
-  void Remove(Vorq::IMPsdConstr<2>* block) override { RemoveBlock(block); }
-  void Remove(Vorq::IMPsdConstr<3>* block) override { RemoveBlock(block); }
-  void Remove(Vorq::IVarArray* vars) override { Impl().Remove(Vorq::Unwrap(vars)); }
-  void Remove(Vorq::IConstrArray* constrs) override { Impl().Remove(Vorq::Unwrap(constrs)); }
-  void Remove(Vorq::ISosArray* soss) override { Impl().Remove(Vorq::Unwrap(soss)); }
-  void Remove(Vorq::IConeArray* cones) override { Impl().Remove(Vorq::Unwrap(cones)); }
-  void Remove(Vorq::IExpConeArray* cones) override { Impl().Remove(Vorq::Unwrap(cones)); }
-  void Remove(Vorq::IAffineConeArray* cones) override { Impl().Remove(Vorq::Unwrap(cones)); }
-  void Remove(Vorq::IGenConstrArray* constrs) override { Impl().Remove(Vorq::Unwrap(constrs)); }
-  void Remove(Vorq::IQConstrArray* constrs) override { Impl().Remove(Vorq::Unwrap(constrs)); }
-  void Remove(Vorq::IPsdVarArray* vars) override { Impl().Remove(Vorq::Unwrap(vars)); }
-  void Remove(Vorq::IPsdConstrArray* constrs) override { Impl().Remove(Vorq::Unwrap(constrs)); }
-  void Remove(Vorq::ILmiConstrArray* constrs) override { Impl().Remove(Vorq::Unwrap(constrs)); }
+  void Remove(Vorq::IMVar<0>* vars) override { Do(VORQ_CALL(Remove, vars)); }
+  void Remove(Vorq::IMVar<1>* vars) override { Do(VORQ_CALL(Remove, vars)); }
+  void Remove(Vorq::IMVar<2>* vars) override { Do(VORQ_CALL(Remove, vars)); }
+  void Remove(Vorq::IMVar<3>* vars) override { Do(VORQ_CALL(Remove, vars)); }
+  void Remove(Vorq::IMConstr<0>* constrs) override { Do(VORQ_CALL(Remove, constrs)); }
+  void Remove(Vorq::IMConstr<1>* constrs) override { Do(VORQ_CALL(Remove, constrs)); }
+  void Remove(Vorq::IMConstr<2>* constrs) override { Do(VORQ_CALL(Remove, constrs)); }
+  void Remove(Vorq::IMConstr<3>* constrs) override { Do(VORQ_CALL(Remove, constrs)); }
+  void Remove(Vorq::IMQConstr<0>* constrs) override { Do(VORQ_CALL(Remove, constrs)); }
+  void Remove(Vorq::IMQConstr<1>* constrs) override { Do(VORQ_CALL(Remove, constrs)); }
+  void Remove(Vorq::IMQConstr<2>* constrs) override { Do(VORQ_CALL(Remove, constrs)); }
+  void Remove(Vorq::IMQConstr<3>* constrs) override { Do(VORQ_CALL(Remove, constrs)); }
+  void Remove(Vorq::IMPsdConstr<0>* constrs) override { Do(VORQ_CALL(Remove, constrs)); }
+  void Remove(Vorq::IMPsdConstr<1>* constrs) override { Do(VORQ_CALL(Remove, constrs)); }
+  void Remove(Vorq::IMPsdConstr<2>* constrs) override { Do(VORQ_CALL(Remove, constrs)); }
+  void Remove(Vorq::IMPsdConstr<3>* constrs) override { Do(VORQ_CALL(Remove, constrs)); }
+  void Remove(Vorq::IVarArray* vars) override { Do(VORQ_CALL(Remove, vars)); }
+  void Remove(Vorq::IConstrArray* constrs) override { Do(VORQ_CALL(Remove, constrs)); }
+  void Remove(Vorq::ISosArray* soss) override { Do(VORQ_CALL(Remove, soss)); }
+  void Remove(Vorq::IConeArray* cones) override { Do(VORQ_CALL(Remove, cones)); }
+  void Remove(Vorq::IExpConeArray* cones) override { Do(VORQ_CALL(Remove, cones)); }
+  void Remove(Vorq::IAffineConeArray* cones) override { Do(VORQ_CALL(Remove, cones)); }
+  void Remove(Vorq::IGenConstrArray* constrs) override { Do(VORQ_CALL(Remove, constrs)); }
+  void Remove(Vorq::IQConstrArray* constrs) override { Do(VORQ_CALL(Remove, constrs)); }
+  void Remove(Vorq::IPsdVarArray* vars) override { Do(VORQ_CALL(Remove, vars)); }
+  void Remove(Vorq::IPsdConstrArray* constrs) override { Do(VORQ_CALL(Remove, constrs)); }
+  void Remove(Vorq::ILmiConstrArray* constrs) override { Do(VORQ_CALL(Remove, constrs)); }
 
   // Reset, clear, copy.
   void ResetParam() override { Impl().ResetParam(); }
@@ -56,10 +56,4 @@ class VorqModel final : public VorqModelSolving {
   // The last failure; the text is valid until the next one.
   int GetLastError() override { return Impl().status.Code(); }
   char const* GetErrorMessage() override { return Impl().status.Text(); }
-
- private:
-  template <class IBlock>
-  void RemoveBlock(IBlock* block) {
-    if (Given("Remove", block)) Impl().Remove(Vorq::Unwrap(block));
-  }
 };

@@ -17,15 +17,6 @@ struct HandleTraits<IModel> {
 class ModelHandle : public Handle<VorqModel, IModel, Model> {
  public:
   using Handle::Handle;
-
- protected:
-  // False, with the failure recorded, if an object is null.
-  template <class... Objects>
-  bool Given(char const* operation, Objects const*... objects) {
-    if (((objects != nullptr) && ...)) return true;
-    SetStatus(Impl().status, kInvalid, "%s is given a null object", operation);
-    return false;
-  }
 };
 
 }  // namespace Vorq

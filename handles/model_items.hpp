@@ -14,11 +14,9 @@ class VorqModelItems : public VorqModelSpecialConstraints {
   }
   Vorq::IVarArray* GetVars() override { return Vorq::Wrap<Vorq::IVarArray>(Impl().Collect<Vorq::Var>()); }
   void SetNames(Vorq::IVarArray* vars, char const* names, std::uint64_t length) override {
-    Impl().SetNames(Vorq::Unwrap(vars), names, length);
+    Do(VORQ_CALL(SetNames, vars, names, length));
   }
-  Vorq::IColumn* GetCol(Vorq::IVar* var) override {
-    return Vorq::Wrap<Vorq::IColumn>(Impl().GetCol(Vorq::Unwrap(var)));
-  }
+  Vorq::IColumn* GetCol(Vorq::IVar* var) override { return Make<Vorq::IColumn>(VORQ_CALL(GetCol, var)); }
   Vorq::IConstraint* GetConstr(int index) override {
     return Vorq::Wrap<Vorq::IConstraint>(Impl().Get<Vorq::Constraint>(index));
   }
@@ -29,24 +27,22 @@ class VorqModelItems : public VorqModelSpecialConstraints {
     return Vorq::Wrap<Vorq::IConstrArray>(Impl().Collect<Vorq::Constraint>());
   }
   void SetNames(Vorq::IConstrArray* constrs, char const* names, std::uint64_t length) override {
-    Impl().SetNames(Vorq::Unwrap(constrs), names, length);
+    Do(VORQ_CALL(SetNames, constrs, names, length));
   }
   Vorq::IConstrBuilderArray* GetConstrBuilders() override {
     return Vorq::Wrap<Vorq::IConstrBuilderArray>(Impl().GetConstrBuilders());
   }
   Vorq::IConstrBuilder* GetConstrBuilder(Vorq::IConstraint* constr) override {
-    return Vorq::Wrap<Vorq::IConstrBuilder>(Impl().GetConstrBuilder(Vorq::Unwrap(constr)));
+    return Make<Vorq::IConstrBuilder>(VORQ_CALL(GetConstrBuilder, constr));
   }
-  Vorq::IExpr* GetRow(Vorq::IConstraint* constr) override {
-    return Vorq::Wrap<Vorq::IExpr>(Impl().GetRow(Vorq::Unwrap(constr)));
-  }
+  Vorq::IExpr* GetRow(Vorq::IConstraint* constr) override { return Make<Vorq::IExpr>(VORQ_CALL(GetRow, constr)); }
   Vorq::ISos* GetSos(int index) override { return Vorq::Wrap<Vorq::ISos>(Impl().Get<Vorq::Sos>(index)); }
   Vorq::ISosArray* GetSoss() override { return Vorq::Wrap<Vorq::ISosArray>(Impl().Collect<Vorq::Sos>()); }
   Vorq::ISosBuilderArray* GetSosBuilders() override {
     return Vorq::Wrap<Vorq::ISosBuilderArray>(Impl().GetSosBuilders({}));
   }
   Vorq::ISosBuilderArray* GetSosBuilders(Vorq::ISosArray* soss) override {
-    return Vorq::Wrap<Vorq::ISosBuilderArray>(Impl().GetSosBuilders(Vorq::Unwrap(soss)));
+    return Make<Vorq::ISosBuilderArray>(VORQ_CALL(GetSosBuilders, soss));
   }
   Vorq::IGenConstr* GetGenConstr(int index) override {
     return Vorq::Wrap<Vorq::IGenConstr>(Impl().Get<Vorq::GenConstr>(index));
@@ -58,13 +54,13 @@ class VorqModelItems : public VorqModelSpecialConstraints {
     return Vorq::Wrap<Vorq::IGenConstrArray>(Impl().Collect<Vorq::GenConstr>());
   }
   void SetNames(Vorq::IGenConstrArray* constrs, char const* names, std::uint64_t length) override {
-    Impl().SetNames(Vorq::Unwrap(constrs), names, length);
+    Do(VORQ_CALL(SetNames, constrs, names, length));
   }
   Vorq::IGenConstrBuilderArray* GetGenConstrBuilders() override {
     return Vorq::Wrap<Vorq::IGenConstrBuilderArray>(Impl().GetGenConstrBuilders());
   }
   Vorq::IGenConstrBuilder* GetGenConstrBuilder(Vorq::IGenConstr* constr) override {
-    return Vorq::Wrap<Vorq::IGenConstrBuilder>(Impl().GetGenConstrBuilder(Vorq::Unwrap(constr)));
+    return Make<Vorq::IGenConstrBuilder>(VORQ_CALL(GetGenConstrBuilder, constr));
   }
   Vorq::ICone* GetCone(int index) override { return Vorq::Wrap<Vorq::ICone>(Impl().Get<Vorq::Cone>(index)); }
   Vorq::IConeArray* GetCones() override { return Vorq::Wrap<Vorq::IConeArray>(Impl().Collect<Vorq::Cone>()); }
@@ -72,7 +68,7 @@ class VorqModelItems : public VorqModelSpecialConstraints {
     return Vorq::Wrap<Vorq::IConeBuilderArray>(Impl().GetConeBuilders({}));
   }
   Vorq::IConeBuilderArray* GetConeBuilders(Vorq::IConeArray* cones) override {
-    return Vorq::Wrap<Vorq::IConeBuilderArray>(Impl().GetConeBuilders(Vorq::Unwrap(cones)));
+    return Make<Vorq::IConeBuilderArray>(VORQ_CALL(GetConeBuilders, cones));
   }
   Vorq::IExpCone* GetExpCone(int index) override {
     return Vorq::Wrap<Vorq::IExpCone>(Impl().Get<Vorq::ExpCone>(index));
@@ -84,7 +80,7 @@ class VorqModelItems : public VorqModelSpecialConstraints {
     return Vorq::Wrap<Vorq::IExpConeBuilderArray>(Impl().GetExpConeBuilders({}));
   }
   Vorq::IExpConeBuilderArray* GetExpConeBuilders(Vorq::IExpConeArray* cones) override {
-    return Vorq::Wrap<Vorq::IExpConeBuilderArray>(Impl().GetExpConeBuilders(Vorq::Unwrap(cones)));
+    return Make<Vorq::IExpConeBuilderArray>(VORQ_CALL(GetExpConeBuilders, cones));
   }
   Vorq::IAffineCone* GetAffineCone(int index) override {
     return Vorq::Wrap<Vorq::IAffineCone>(Impl().Get<Vorq::AffineCone>(index));
@@ -96,18 +92,16 @@ class VorqModelItems : public VorqModelSpecialConstraints {
     return Vorq::Wrap<Vorq::IAffineConeArray>(Impl().Collect<Vorq::AffineCone>());
   }
   void SetNames(Vorq::IAffineConeArray* cones, char const* names, std::uint64_t length) override {
-    Impl().SetNames(Vorq::Unwrap(cones), names, length);
+    Do(VORQ_CALL(SetNames, cones, names, length));
   }
   Vorq::IAffineConeBuilder* GetAffineConeBuilder(Vorq::IAffineCone* cone) override {
-    if (!Given("GetAffineConeBuilder", cone)) return Vorq::Wrap<Vorq::IAffineConeBuilder>();
-    return Vorq::Wrap<Vorq::IAffineConeBuilder>(Impl().GetAffineConeBuilder(Vorq::Unwrap(cone)));
+    return Make<Vorq::IAffineConeBuilder>(VORQ_CALL(GetAffineConeBuilder, cone));
   }
   Vorq::IAffineConeBuilderArray* GetAffineConeBuilders() override {
     return Vorq::Wrap<Vorq::IAffineConeBuilderArray>(Impl().GetAffineConeBuilders({}));
   }
   Vorq::IAffineConeBuilderArray* GetAffineConeBuilders(Vorq::IAffineConeArray* cones) override {
-    if (!Given("GetAffineConeBuilders", cones)) return Vorq::Wrap<Vorq::IAffineConeBuilderArray>();
-    return Vorq::Wrap<Vorq::IAffineConeBuilderArray>(Impl().GetAffineConeBuilders(Vorq::Unwrap(cones)));
+    return Make<Vorq::IAffineConeBuilderArray>(VORQ_CALL(GetAffineConeBuilders, cones));
   }
   Vorq::IQConstraint* GetQConstr(int index) override {
     return Vorq::Wrap<Vorq::IQConstraint>(Impl().Get<Vorq::QConstraint>(index));
@@ -119,16 +113,16 @@ class VorqModelItems : public VorqModelSpecialConstraints {
     return Vorq::Wrap<Vorq::IQConstrArray>(Impl().Collect<Vorq::QConstraint>());
   }
   void SetNames(Vorq::IQConstrArray* constrs, char const* names, std::uint64_t length) override {
-    Impl().SetNames(Vorq::Unwrap(constrs), names, length);
+    Do(VORQ_CALL(SetNames, constrs, names, length));
   }
   Vorq::IQConstrBuilderArray* GetQConstrBuilders() override {
     return Vorq::Wrap<Vorq::IQConstrBuilderArray>(Impl().GetQConstrBuilders());
   }
   Vorq::IQConstrBuilder* GetQConstrBuilder(Vorq::IQConstraint* constr) override {
-    return Vorq::Wrap<Vorq::IQConstrBuilder>(Impl().GetQConstrBuilder(Vorq::Unwrap(constr)));
+    return Make<Vorq::IQConstrBuilder>(VORQ_CALL(GetQConstrBuilder, constr));
   }
   Vorq::IQuadExpr* GetQuadRow(Vorq::IQConstraint* constr) override {
-    return Vorq::Wrap<Vorq::IQuadExpr>(Impl().GetQuadRow(Vorq::Unwrap(constr)));
+    return Make<Vorq::IQuadExpr>(VORQ_CALL(GetQuadRow, constr));
   }
   Vorq::IPsdVar* GetPsdVar(int index) override { return Vorq::Wrap<Vorq::IPsdVar>(Impl().Get<Vorq::PsdVar>(index)); }
   Vorq::IPsdVar* GetPsdVarByName(char const* name) override {
@@ -136,7 +130,7 @@ class VorqModelItems : public VorqModelSpecialConstraints {
   }
   Vorq::IPsdVarArray* GetPsdVars() override { return Vorq::Wrap<Vorq::IPsdVarArray>(Impl().Collect<Vorq::PsdVar>()); }
   void SetNames(Vorq::IPsdVarArray* vars, char const* names, std::uint64_t length) override {
-    Impl().SetNames(Vorq::Unwrap(vars), names, length);
+    Do(VORQ_CALL(SetNames, vars, names, length));
   }
   Vorq::IPsdConstraint* GetPsdConstr(int index) override {
     return Vorq::Wrap<Vorq::IPsdConstraint>(Impl().Get<Vorq::PsdConstraint>(index));
@@ -148,16 +142,16 @@ class VorqModelItems : public VorqModelSpecialConstraints {
     return Vorq::Wrap<Vorq::IPsdConstrArray>(Impl().Collect<Vorq::PsdConstraint>());
   }
   void SetNames(Vorq::IPsdConstrArray* constrs, char const* names, std::uint64_t length) override {
-    Impl().SetNames(Vorq::Unwrap(constrs), names, length);
+    Do(VORQ_CALL(SetNames, constrs, names, length));
   }
   Vorq::IPsdConstrBuilder* GetPsdConstrBuilder(Vorq::IPsdConstraint* constr) override {
-    return Vorq::Wrap<Vorq::IPsdConstrBuilder>(Impl().GetPsdConstrBuilder(Vorq::Unwrap(constr)));
+    return Make<Vorq::IPsdConstrBuilder>(VORQ_CALL(GetPsdConstrBuilder, constr));
   }
   Vorq::IPsdConstrBuilderArray* GetPsdConstrBuilders() override {
     return Vorq::Wrap<Vorq::IPsdConstrBuilderArray>(Impl().GetPsdConstrBuilders());
   }
   Vorq::IPsdExpr* GetPsdRow(Vorq::IPsdConstraint* constr) override {
-    return Vorq::Wrap<Vorq::IPsdExpr>(Impl().GetPsdRow(Vorq::Unwrap(constr)));
+    return Make<Vorq::IPsdExpr>(VORQ_CALL(GetPsdRow, constr));
   }
   Vorq::ILmiConstraint* GetLmiConstr(int index) override {
     return Vorq::Wrap<Vorq::ILmiConstraint>(Impl().Get<Vorq::LmiConstraint>(index));
@@ -169,39 +163,39 @@ class VorqModelItems : public VorqModelSpecialConstraints {
     return Vorq::Wrap<Vorq::ILmiConstrArray>(Impl().Collect<Vorq::LmiConstraint>());
   }
   void SetNames(Vorq::ILmiConstrArray* constrs, char const* names, std::uint64_t length) override {
-    Impl().SetNames(Vorq::Unwrap(constrs), names, length);
+    Do(VORQ_CALL(SetNames, constrs, names, length));
   }
   Vorq::ILmiExpr* GetLmiRow(Vorq::ILmiConstraint* constr) override {
-    return Vorq::Wrap<Vorq::ILmiExpr>(Impl().GetLmiRow(Vorq::Unwrap(constr)));
+    return Make<Vorq::ILmiExpr>(VORQ_CALL(GetLmiRow, constr));
   }
 
   // Coefficients and bulk loads.
   double GetCoeff(Vorq::IConstraint* constr, Vorq::IVar* var) override {
-    return Impl().GetCoeff(Vorq::Unwrap(constr), Vorq::Unwrap(var));
+    return Ask(0.0, VORQ_CALL(GetCoeff, constr, var));
   }
   void SetCoeff(Vorq::IConstraint* constr, Vorq::IVar* var, double value) override {
-    Impl().SetCoeff(Vorq::Unwrap(constr), Vorq::Unwrap(var), value);
+    Do(VORQ_CALL(SetCoeff, constr, var, value));
   }
   void SetCoeffs(Vorq::IConstrArray* constrs, Vorq::IVarArray* vars, double const* values, int len) override {
-    Impl().SetCoeffs(Vorq::Unwrap(constrs), Vorq::Unwrap(vars), values, len);
+    Do(VORQ_CALL(SetCoeffs, constrs, vars, values, len));
   }
   Vorq::ISymMatrix* GetPsdCoeff(Vorq::IPsdConstraint* constr, Vorq::IPsdVar* var) override {
-    return Vorq::Wrap<Vorq::ISymMatrix>(Impl().GetPsdCoeff(Vorq::Unwrap(constr), Vorq::Unwrap(var)));
+    return Make<Vorq::ISymMatrix>(VORQ_CALL(GetPsdCoeff, constr, var));
   }
   void SetPsdCoeff(Vorq::IPsdConstraint* constr, Vorq::IPsdVar* var, Vorq::ISymMatrix* mat) override {
-    Impl().SetPsdCoeff(Vorq::Unwrap(constr), Vorq::Unwrap(var), Vorq::Unwrap(mat));
+    Do(VORQ_CALL(SetPsdCoeff, constr, var, mat));
   }
   Vorq::ISymMatrix* GetLmiCoeff(Vorq::ILmiConstraint* constr, Vorq::IVar* var) override {
-    return Vorq::Wrap<Vorq::ISymMatrix>(Impl().GetLmiCoeff(Vorq::Unwrap(constr), Vorq::Unwrap(var)));
+    return Make<Vorq::ISymMatrix>(VORQ_CALL(GetLmiCoeff, constr, var));
   }
   void SetLmiCoeff(Vorq::ILmiConstraint* constr, Vorq::IVar* var, Vorq::ISymMatrix* mat) override {
-    Impl().SetLmiCoeff(Vorq::Unwrap(constr), Vorq::Unwrap(var), Vorq::Unwrap(mat));
+    Do(VORQ_CALL(SetLmiCoeff, constr, var, mat));
   }
   Vorq::ISymMatrix* GetLmiRhs(Vorq::ILmiConstraint* constr) override {
-    return Vorq::Wrap<Vorq::ISymMatrix>(Impl().GetLmiRhs(Vorq::Unwrap(constr)));
+    return Make<Vorq::ISymMatrix>(VORQ_CALL(GetLmiRhs, constr));
   }
   void SetLmiRhs(Vorq::ILmiConstraint* constr, Vorq::ISymMatrix* mat) override {
-    Impl().SetLmiRhs(Vorq::Unwrap(constr), Vorq::Unwrap(mat));
+    Do(VORQ_CALL(SetLmiRhs, constr, mat));
   }
   void GetCols(int* begin, int* count, int* index, double* value) override {
     Impl().GetCols(begin, count, index, value);

@@ -11,20 +11,14 @@ class VorqModelSolving : public VorqModelItems {
   // Objective.
   void SetObjSense(int sense) override { Impl().SetObjSense(sense); }
   void SetObjConst(double constant) override { Impl().SetObjConst(constant); }
-  void SetObjective(Vorq::IExpr* expr, int sense) override { Impl().SetObjective(Vorq::Unwrap(expr), sense); }
-  void SetObjective(Vorq::IMExpression* cell, int sense) override {
-    if (Given("SetObjective", cell)) Impl().SetObjective(Vorq::Unwrap(cell), sense);
-  }
+  void SetObjective(Vorq::IExpr* expr, int sense) override { Do(VORQ_CALL(SetObjective, expr, sense)); }
+  void SetObjective(Vorq::IMExpression* cell, int sense) override { Do(VORQ_CALL(SetObjective, cell, sense)); }
   Vorq::IExpr* GetObjective() override { return Vorq::Wrap<Vorq::IExpr>(Impl().GetObjective()); }
-  void SetQuadObjective(Vorq::IQuadExpr* expr, int sense) override {
-    Impl().SetQuadObjective(Vorq::Unwrap(expr), sense);
-  }
-  void SetQuadObjective(Vorq::IMQExpression* cell, int sense) override {
-    if (Given("SetQuadObjective", cell)) Impl().SetQuadObjective(Vorq::Unwrap(cell), sense);
-  }
+  void SetQuadObjective(Vorq::IQuadExpr* expr, int sense) override { Do(VORQ_CALL(SetQuadObjective, expr, sense)); }
+  void SetQuadObjective(Vorq::IMQExpression* cell, int sense) override { Do(VORQ_CALL(SetQuadObjective, cell, sense)); }
   Vorq::IQuadExpr* GetQuadObjective() override { return Vorq::Wrap<Vorq::IQuadExpr>(Impl().GetQuadObjective()); }
   void DelQuadObj() override { Impl().DelQuadObj(); }
-  void SetPsdObjective(Vorq::IPsdExpr* expr, int sense) override { Impl().SetPsdObjective(Vorq::Unwrap(expr), sense); }
+  void SetPsdObjective(Vorq::IPsdExpr* expr, int sense) override { Do(VORQ_CALL(SetPsdObjective, expr, sense)); }
   Vorq::IPsdExpr* GetPsdObjective() override { return Vorq::Wrap<Vorq::IPsdExpr>(Impl().GetPsdObjective()); }
   void DelPsdObj() override { Impl().DelPsdObj(); }
 
@@ -34,19 +28,16 @@ class VorqModelSolving : public VorqModelItems {
   void ComputeIIS() override { Impl().ComputeIIS(); }
   void FeasRelax(Vorq::IVarArray* vars, double const* colLowPen, double const* colUppPen, Vorq::IConstrArray* cons,
                  double const* rowBndPen, double const* rowUppPen) override {
-    Impl().FeasRelax(Vorq::Unwrap(vars), colLowPen, colUppPen, Vorq::Unwrap(cons), rowBndPen, rowUppPen);
+    Do(VORQ_CALL(FeasRelax, vars, colLowPen, colUppPen, cons, rowBndPen, rowUppPen));
   }
   void FeasRelax(Vorq::IMVar<1>* vars, double const* colLowPen, double const* colUppPen, Vorq::IMConstr<1>* cons,
                  double const* rowBndPen, double const* rowUppPen) override {
-    if (!Given("FeasRelax", vars, cons)) return;
-    Impl().FeasRelax(Vorq::Unwrap(vars), colLowPen, colUppPen, Vorq::Unwrap(cons), rowBndPen, rowUppPen);
+    Do(VORQ_CALL(FeasRelax, vars, colLowPen, colUppPen, cons, rowBndPen, rowUppPen));
   }
   void FeasRelax(Vorq::IMVar<1>* vars, Vorq::INdArray<double, 1>* colLowPen, Vorq::INdArray<double, 1>* colUppPen,
                  Vorq::IMConstr<1>* cons, Vorq::INdArray<double, 1>* rowBndPen,
                  Vorq::INdArray<double, 1>* rowUppPen) override {
-    if (!Given("FeasRelax", vars, colLowPen, colUppPen, cons, rowBndPen, rowUppPen)) return;
-    Impl().FeasRelax(Vorq::Unwrap(vars), Vorq::Unwrap(colLowPen), Vorq::Unwrap(colUppPen), Vorq::Unwrap(cons),
-                     Vorq::Unwrap(rowBndPen), Vorq::Unwrap(rowUppPen));
+    Do(VORQ_CALL(FeasRelax, vars, colLowPen, colUppPen, cons, rowBndPen, rowUppPen));
   }
   void FeasRelax(int ifRelaxVars, int ifRelaxCons) override { Impl().FeasRelax(ifRelaxVars != 0, ifRelaxCons != 0); }
   void Tune() override { Impl().Tune(); }
@@ -55,10 +46,8 @@ class VorqModelSolving : public VorqModelItems {
 
   // MIP starts.
   void SetMipStart(int count, double const* values) override { Impl().SetMipStart(count, values); }
-  void SetMipStart(Vorq::IVar* var, double value) override { Impl().SetMipStart(Vorq::Unwrap(var), value); }
-  void SetMipStart(Vorq::IVarArray* vars, double const* values) override {
-    Impl().SetMipStart(Vorq::Unwrap(vars), values);
-  }
+  void SetMipStart(Vorq::IVar* var, double value) override { Do(VORQ_CALL(SetMipStart, var, value)); }
+  void SetMipStart(Vorq::IVarArray* vars, double const* values) override { Do(VORQ_CALL(SetMipStart, vars, values)); }
   void LoadMipStart() override { Impl().LoadMipStart(); }
 
   // Solutions, basis, solution pool, IIS.
@@ -75,23 +64,19 @@ class VorqModelSolving : public VorqModelItems {
   void SetSlackBasis() override { Impl().SetSlackBasis(); }
   double GetPoolObjVal(int index) override { return Impl().GetPoolObjVal(index); }
   int GetPoolSolution(int index, Vorq::IVarArray* vars, double* out) override {
-    return Impl().GetPoolSolution(index, Vorq::Unwrap(vars), out);
+    return Ask(-1, VORQ_CALL(GetPoolSolution, index, vars, out));
   }
-  int GetColLowerIIS(Vorq::IVarArray* vars, int* out) override {
-    return Impl().GetColLowerIIS(Vorq::Unwrap(vars), out);
-  }
-  int GetColUpperIIS(Vorq::IVarArray* vars, int* out) override {
-    return Impl().GetColUpperIIS(Vorq::Unwrap(vars), out);
-  }
+  int GetColLowerIIS(Vorq::IVarArray* vars, int* out) override { return Ask(-1, VORQ_CALL(GetColLowerIIS, vars, out)); }
+  int GetColUpperIIS(Vorq::IVarArray* vars, int* out) override { return Ask(-1, VORQ_CALL(GetColUpperIIS, vars, out)); }
   int GetRowLowerIIS(Vorq::IConstrArray* constrs, int* out) override {
-    return Impl().GetRowLowerIIS(Vorq::Unwrap(constrs), out);
+    return Ask(-1, VORQ_CALL(GetRowLowerIIS, constrs, out));
   }
   int GetRowUpperIIS(Vorq::IConstrArray* constrs, int* out) override {
-    return Impl().GetRowUpperIIS(Vorq::Unwrap(constrs), out);
+    return Ask(-1, VORQ_CALL(GetRowUpperIIS, constrs, out));
   }
-  int GetSOSIIS(Vorq::ISosArray* soss, int* out) override { return Impl().GetSOSIIS(Vorq::Unwrap(soss), out); }
+  int GetSOSIIS(Vorq::ISosArray* soss, int* out) override { return Ask(-1, VORQ_CALL(GetSOSIIS, soss, out)); }
   int GetIndicatorIIS(Vorq::IGenConstrArray* constrs, int* out) override {
-    return Impl().GetIndicatorIIS(Vorq::Unwrap(constrs), out);
+    return Ask(-1, VORQ_CALL(GetIndicatorIIS, constrs, out));
   }
 
   // Semidefinite solutions.
@@ -100,24 +85,24 @@ class VorqModelSolving : public VorqModelItems {
 
   // Information of many items at once.
   int GetColInfo(char const* name, Vorq::IVarArray* vars, double* out) override {
-    return Impl().GetInfo(name, Vorq::Unwrap(vars), out);
+    return Ask(-1, VORQ_CALL_AS(GetColInfo, GetInfo, name, vars, out));
   }
   int GetRowInfo(char const* name, Vorq::IConstrArray* constrs, double* out) override {
-    return Impl().GetInfo(name, Vorq::Unwrap(constrs), out);
+    return Ask(-1, VORQ_CALL_AS(GetRowInfo, GetInfo, name, constrs, out));
   }
   int GetQConstrInfo(char const* name, Vorq::IQConstrArray* constrs, double* out) override {
-    return Impl().GetInfo(name, Vorq::Unwrap(constrs), out);
+    return Ask(-1, VORQ_CALL_AS(GetQConstrInfo, GetInfo, name, constrs, out));
   }
   int GetPsdConstrInfo(char const* name, Vorq::IPsdConstrArray* constrs, double* out) override {
-    return Impl().GetInfo(name, Vorq::Unwrap(constrs), out);
+    return Ask(-1, VORQ_CALL_AS(GetPsdConstrInfo, GetInfo, name, constrs, out));
   }
   void SetColInfo(char const* name, Vorq::IVarArray* vars, double const* values, int len) override {
-    Impl().SetInfo(name, Vorq::Unwrap(vars), values, len);
+    Do(VORQ_CALL_AS(SetColInfo, SetInfo, name, vars, values, len));
   }
   void SetRowInfo(char const* name, Vorq::IConstrArray* constrs, double const* values, int len) override {
-    Impl().SetInfo(name, Vorq::Unwrap(constrs), values, len);
+    Do(VORQ_CALL_AS(SetRowInfo, SetInfo, name, constrs, values, len));
   }
   void SetPsdConstrInfo(char const* name, Vorq::IPsdConstrArray* constrs, double const* values, int len) override {
-    Impl().SetInfo(name, Vorq::Unwrap(constrs), values, len);
+    Do(VORQ_CALL_AS(SetPsdConstrInfo, SetInfo, name, constrs, values, len));
   }
 };

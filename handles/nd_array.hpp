@@ -37,15 +37,9 @@ class VorqNdArray final : public Vorq::Handle<VorqNdArray<T, N>, Vorq::INdArray<
   std::uint64_t GetDim(int axis) override { return this->Impl().GetDim(axis); }
   std::uint64_t GetSize() override { return this->Impl().GetSize(); }
   Vorq::INDim<N>* GetShape() override { return Vorq::Wrap<Vorq::INDim<N>>(this->Impl().GetShape()); }
-  Array<1>* Reshape(Vorq::INDim<1>* shape) override {
-    return Vorq::WrapArray(this->Impl().Reshape(Vorq::Unwrap(shape)));
-  }
-  Array<2>* Reshape(Vorq::INDim<2>* shape) override {
-    return Vorq::WrapArray(this->Impl().Reshape(Vorq::Unwrap(shape)));
-  }
-  Array<3>* Reshape(Vorq::INDim<3>* shape) override {
-    return Vorq::WrapArray(this->Impl().Reshape(Vorq::Unwrap(shape)));
-  }
+  Array<1>* Reshape(Vorq::INDim<1>* shape) override { return this->template Make<Array<1>>(VORQ_CALL(Reshape, shape)); }
+  Array<2>* Reshape(Vorq::INDim<2>* shape) override { return this->template Make<Array<2>>(VORQ_CALL(Reshape, shape)); }
+  Array<3>* Reshape(Vorq::INDim<3>* shape) override { return this->template Make<Array<3>>(VORQ_CALL(Reshape, shape)); }
   Array<1>* Flatten() override { return Vorq::WrapArray(this->Impl().Flatten()); }
   Array<N>* Repeat(std::uint64_t n, int axis) override { return Vorq::WrapArray(this->Impl().Repeat(n, axis)); }
   Array<N>* RepeatBlock(std::uint64_t n, int axis) override {
@@ -54,12 +48,12 @@ class VorqNdArray final : public Vorq::Handle<VorqNdArray<T, N>, Vorq::INdArray<
   Array<0>* Sum() override { return Vorq::WrapArray(Vorq::Sum(this->Impl())); }
   Array<N>* Transpose() override { return Vorq::WrapArray(this->Impl().Transpose()); }
   T Get(std::uint64_t index) override { return this->Impl().Get(index); }
-  Array<N>* View(Vorq::IView* view) override { return Vorq::WrapArray(this->Impl().View(Vorq::Unwrap(view))); }
+  Array<N>* View(Vorq::IView* view) override { return this->template Make<Array<N>>(VORQ_CALL(View, view)); }
   Array<1>* Pick(Vorq::INdArray<int, 1>* indices) override {
-    return Vorq::WrapArray(this->Impl().Pick(Vorq::Unwrap(indices)));
+    return this->template Make<Array<1>>(VORQ_CALL(Pick, indices));
   }
   Array<1>* PickAt(Vorq::INdArray<int, 2>* coords) override {
-    return Vorq::WrapArray(this->Impl().PickAt(Vorq::Unwrap(coords)));
+    return this->template Make<Array<1>>(VORQ_CALL(PickAt, coords));
   }
   void Set(std::uint64_t index, T value) override { this->Impl().Set(index, value); }
   void Fill(T value) override { this->Impl().Fill(value); }

@@ -28,7 +28,7 @@ class VorqNDim final : public Vorq::Handle<VorqNDim<N>, Vorq::INDim<N>, Vorq::ND
     return Vorq::Wrap<Vorq::INDim<N>>(this->Impl().CreateUniform(n));
   }
   std::string ToString(int mode) override { return this->Impl().ToString(mode); }
-  bool Equals(Vorq::INDim<N>* other) override { return this->Impl().Equals(Vorq::Unwrap(other)); }
+  bool Equals(Vorq::INDim<N>* other) override { return this->Ask(false, VORQ_CALL(Equals, other)); }
   int GetLastError() override { return this->Impl().GetLastError(); }
   char const* GetErrorMessage() override { return this->Impl().GetErrorMessage(); }
 };

@@ -30,8 +30,4 @@ void Column::Reduce(int size) {
   ReduceTerms(coeffs, constrs, size);
 }
 
-void Column::ReduceDense(std::vector<double>& sums, std::vector<unsigned char>& marks) {
-  ReduceTermsDense(coeffs, constrs, sums.data(), marks.data());
-}
-
 }  // namespace Vorq

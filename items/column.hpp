@@ -26,9 +26,6 @@ class Column {
 
   // Merges duplicates. `size` is above all indices.
   void Reduce(int size);
-  // The same on the dense path, with the caller's scratch arrays: one entry for each index, all marks zero before and
-  // after.
-  void ReduceDense(std::vector<double>& sums, std::vector<unsigned char>& marks);
 
   std::vector<double> coeffs;
   std::vector<Constraint> constrs;

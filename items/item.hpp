@@ -2,10 +2,11 @@
 // of its own. All kinds are made from the templates below and one record of texts and functions (item_kinds.hpp).
 #pragma once
 
+#include <concepts>
 #include <span>
-#include <string>
-#include <utility>
+#include <string_view>
 
+#include "frame/flat_list.hpp"
 #include "frame/shared_ptr.hpp"
 #include "frame/status.hpp"
 #include "items/item_kinds.hpp"
@@ -17,8 +18,8 @@ namespace Vorq {
 class Item {
  public:
   Item() = default;
-  Item(SharedPtr<ProbHandle> prob, std::string name, int idx)
-      : record_(MakeShared<ItemRec>(std::move(prob), std::move(name), idx)) {}
+  Item(SharedPtr<ProbHandle> const& prob, std::string_view name, int idx)
+      : record_(MakeShared<ItemRec>(prob, name, idx)) {}
 
   bool HasRecord() const { return static_cast<bool>(record_); }
   // Only with a record.
@@ -63,11 +64,12 @@ struct InfoSetterTable {
 class FallibleItem : public Item {
  public:
   FallibleItem() = default;
-  FallibleItem(SharedPtr<ProbHandle> prob, std::string name, int idx) : Item(std::move(prob), std::move(name), idx) {}
+  using Item::Item;
 
   // Copying happens for every term of every expression: a clear status costs one test.
   FallibleItem(FallibleItem const& other) : Item(other) {
-    if (other.status.Failed()) status = other.status;
+    if (other.status.Failed()) [[unlikely]]
+      status = other.status;
   }
   FallibleItem(FallibleItem&&) noexcept = default;
   FallibleItem& operator=(FallibleItem const&) = default;
@@ -116,8 +118,8 @@ template <ItemKind const& kKind>
 class MatrixItem : public NamedItem<kKind> {
  public:
   MatrixItem() = default;
-  MatrixItem(SharedPtr<ProbHandle> prob, std::string name, int idx, int dimension = 0)
-      : NamedItem<kKind>(std::move(prob), std::move(name), idx), dim(dimension), len(dimension * dimension) {}
+  MatrixItem(SharedPtr<ProbHandle> const& prob, std::string_view name, int idx, int dimension = 0)
+      : NamedItem<kKind>(prob, name, idx), dim(dimension), len(dimension * dimension) {}
 
   int dim = 0;
   int len = 0;
@@ -132,5 +134,9 @@ class MatrixItem : public NamedItem<kKind> {
     SetStatus(this->status, read(this->Prob(), name, 1, &this->Record().idx, out), "%s", failure);
   }
 };
+
+// An item is two addresses, of its record and of its failure, and neither knows where the item is.
+template <std::derived_from<Item> T>
+struct IsRelocatable<T> : std::true_type {};
 
 }  // namespace Vorq

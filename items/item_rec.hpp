@@ -1,10 +1,10 @@
 // ItemRec: the identity of one model item, shared by all objects that stand for it.
 #pragma once
 
-#include <string>
-#include <utility>
+#include <string_view>
 
 #include "frame/shared_ptr.hpp"
+#include "items/item_name.hpp"
 #include "items/prob_handle.hpp"
 
 namespace Vorq {
@@ -18,15 +18,15 @@ constexpr int RemovedIndex(int position) {
 }
 
 struct ItemRec {
-  ItemRec(SharedPtr<ProbHandle> problem, std::string itemName, int index)
-      : idx(index), prob(std::move(problem)), name(std::move(itemName)) {}
+  ItemRec(SharedPtr<ProbHandle> const& problem, std::string_view itemName, int index)
+      : idx(index), name(itemName), prob(problem) {}
 
   // 0 or above: the position in the solver's list. -2: invalid. -3 or below: removed. It stands first, behind the
   // control block, so that the counter and the index that every term reads share a cache line.
   int idx;
-  SharedPtr<ProbHandle> prob;
   // The cached name; empty if it was not fetched or there is none.
-  std::string name;
+  ItemName name;
+  SharedPtr<ProbHandle> prob;
 };
 
 }  // namespace Vorq

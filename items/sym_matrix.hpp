@@ -4,6 +4,7 @@
 
 #include <iosfwd>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "items/item.hpp"
@@ -20,8 +21,8 @@ struct SymMatElement {
 class SymMatrix : public FallibleItem {
  public:
   SymMatrix() = default;
-  SymMatrix(SharedPtr<ProbHandle> prob, std::string name, int idx, int dimension = 0)
-      : FallibleItem(std::move(prob), std::move(name), idx), dim(dimension) {}
+  SymMatrix(SharedPtr<ProbHandle> const& prob, std::string_view name, int idx, int dimension = 0)
+      : FallibleItem(prob, name, idx), dim(dimension) {}
 
   // A matrix with the single entry (row, col, value).
   static SymMatrix Cached(int dim, int row, int col, double value);

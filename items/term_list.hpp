@@ -27,7 +27,7 @@ void MakeRoomForTerms(std::size_t count, First& first, Lists&... lists) {
 
 // Room for one more element. The first growth gives room for a typical row at once.
 template <class List>
-void MakeRoomForOne(List& list) {
+[[gnu::noinline]] void MakeRoomForOne(List& list) {
   constexpr std::size_t kFirstRoom = 8;
   if (list.size() == list.capacity()) list.reserve(std::max(kFirstRoom, 2 * list.size()));
 }
@@ -111,12 +111,26 @@ void MergeDuplicates(Merge merge, std::vector<Item>& items, Lists&... lists) {
   }
 }
 
+// Whether merging would leave the terms as they are: no coefficient is zero, and no index negative or there twice.
+// `indices` are those of the terms' items; `marks` as below.
+inline bool AreReduced(std::vector<double> const& coeffs, std::vector<int> const& indices, unsigned char* marks) {
+  std::size_t const count = coeffs.size();
+  std::size_t seen = 0;
+  while (seen < count && indices[seen] >= 0 && marks[indices[seen]] == 0 && coeffs[seen] != 0.0) {
+    marks[indices[seen++]] = 1;
+  }
+  for (std::size_t i = 0; i < seen; ++i) marks[indices[i]] = 0;
+  return seen == count;
+}
+
 // Merges the terms of each item with scratch arrays that have an entry for each index; all marks are zero before and
-// after. Zero terms and terms of items that are not live are dropped; a sum of zero stays.
-template <class Item>
-void ReduceTermsDense(std::vector<double>& coeffs, std::vector<Item>& items, double* sums, unsigned char* marks) {
-  for (std::size_t i = 0; i < items.size(); ++i) {
-    int const index = items[i].Idx();
+// after. Zero terms and terms of items that are not live are dropped; a sum of zero stays. `indexAt(i)` is the index of
+// the item of term i; `lists` follow the coefficients.
+template <class IndexAt, class... Lists>
+void ReduceTermsDense(IndexAt indexAt, double* sums, unsigned char* marks, std::vector<double>& coeffs,
+                      Lists&... lists) {
+  for (std::size_t i = 0; i < coeffs.size(); ++i) {
+    int const index = indexAt(i);
     double const c = coeffs[i];
     if (index < 0 || c == 0.0) continue;
     if (marks[index] != 0) {
@@ -126,16 +140,22 @@ void ReduceTermsDense(std::vector<double>& coeffs, std::vector<Item>& items, dou
       marks[index] = 1;
     }
   }
-  for (std::size_t i = 0; i < items.size();) {
-    int const index = items[i].Idx();
+  for (std::size_t i = 0; i < coeffs.size();) {
+    int const index = indexAt(i);
     if (index >= 0 && marks[index] != 0) {
       coeffs[i] = sums[index];
       marks[index] = 0;
       ++i;
     } else {
-      SwapRemove(i, coeffs, items);
+      SwapRemove(i, coeffs, lists...);
     }
   }
+}
+
+// The same with the indices that the items have.
+template <class Item>
+void ReduceTermsDense(std::vector<double>& coeffs, std::vector<Item>& items, double* sums, unsigned char* marks) {
+  ReduceTermsDense([&items](std::size_t i) { return items[i].Idx(); }, sums, marks, coeffs, items);
 }
 
 // Merges the terms of each item, all indices being below `size`. Where the scratch arrays of the dense path would be
@@ -176,8 +196,10 @@ inline double ScaledCoefficient(double c, double mult) {
 // Appends one term. `item` must not be an element of `items`.
 template <class Item>
 void AppendTerm(std::vector<double>& coeffs, std::vector<Item>& items, double c, Item const& item) {
-  MakeRoomForOne(coeffs);
-  MakeRoomForOne(items);
+  if (coeffs.size() == coeffs.capacity() || items.size() == items.capacity()) [[unlikely]] {
+    MakeRoomForOne(coeffs);
+    MakeRoomForOne(items);
+  }
   items.push_back(item);
   coeffs.push_back(c);
 }

@@ -32,7 +32,7 @@ inline std::size_t AddedTerms(Var const& var, double) {
   return 1;
 }
 inline std::size_t AddedTerms(MExpression const& cell, double c) {
-  return cell.LazySize() + (c == 0.0 ? 0 : cell.expr.Size());
+  return cell.LazySize() + (c == 0.0 ? 0 : cell.ExplicitSize());
 }
 inline std::size_t AddedTerms(MQExpression const& cell, double c) {
   return c == 0.0 ? 0 : LinearTermCount(cell);

@@ -1,10 +1,14 @@
 // MExpression: the cell of a block of linear expressions: explicit terms, and a product of two vectors that is kept as
 // it is. Its value is
 //
-//     expr + scale * (sum of coeffs[i] * vars[i])
+//     explicit part + scale * (sum of coeffs[i] * vars[i])
 //
 // The vectors share the stores of the arrays that they came from, so that a row of a matrix times a vector of variables
 // costs no term, and copying a cell copies no vector.
+//
+// The explicit part begins with the terms of a sparse product, which stand with the product until something is done to
+// them that the other cells must not see. Nothing but memory and time tells them from those of `expr`, which come
+// behind them.
 //
 //     MExpression cell(row, x);                                            // both of rank 1
 //     cell.ForEachTerm([](Var const& var, double factor) { ... });         // without expanding anything
@@ -18,6 +22,7 @@
 #include <utility>
 
 #include "items/expr.hpp"
+#include "matrix/sparse_terms.hpp"
 #include "matrix/strided_vector.hpp"
 
 namespace Vorq {
@@ -32,6 +37,7 @@ class MExpression {
       : coeffs(std::move(coefficients)), vars(std::move(variables)) {}
   MExpression(NdArray<double, 1> const& coefficients, NdArray<Var, 1> const& variables)
       : coeffs(coefficients), vars(variables) {}
+  explicit MExpression(SparseTerms terms) : sparse_(std::move(terms)) {}
 
   // The lazy part is never asked for a constant.
   double GetConstant() const { return expr.constant; }
@@ -39,12 +45,25 @@ class MExpression {
   void SetConstant(double c) { expr.constant = c; }
   void AddTerm(Var const& var, double c) { expr.AddTerm(var, c); }
   void AddExpr(Expr const& other, double c) { expr.AddExpr(other, c); }
-  // Adds c times the value of `other` as explicit terms. The lazy part of this cell stays lazy.
-  void AddMExpression(MExpression const& other, double c) { other.AddTo(expr, c); }
+  // Adds c times the value of `other` as explicit terms. The lazy part of this cell stays lazy. A cell without explicit
+  // terms shares those of a sparse product.
+  void AddMExpression(MExpression const& other, double c);
   void Multiply(double c);
 
   // Adds c times the value of this cell to `target`. Lazy terms are added whatever their factor is, also 0.
   void AddTo(Expr& target, double c) const;
+
+  // The first explicit terms, those of a sparse product. `expr` holds the others.
+  SparseTerms const& Sparse() const { return sparse_; }
+  // The number of explicit terms.
+  std::size_t ExplicitSize() const { return sparse_.Size() + expr.Size(); }
+  // All explicit terms and the constant.
+  Expr ExplicitPart() const;
+  // Calls use(expression) with the explicit part, which is copied only where it does not stand in `expr`.
+  template <class Use>
+  decltype(auto) WithExplicitPart(Use&& use) const {
+    return sparse_.IsEmpty() ? use(expr) : use(ExplicitPart());
+  }
 
   // The factor of a lazy term. A coefficient of zero stays zero whatever `scale` is, also an infinite one; a NaN stays.
   double LazyFactor(double coefficient) const { return coefficient == 0.0 ? 0.0 : coefficient * scale; }
@@ -61,8 +80,13 @@ class MExpression {
   // Calls visit(variable, factor) for each term, the explicit ones first, in the order in which AddTo adds them.
   template <class Visit>
   void ForEachTerm(Visit&& visit) const {
-    for (std::size_t i = 0; i < expr.coeffs.size(); ++i) visit(expr.vars[i], expr.coeffs[i]);
+    ForEachExplicitTerm(visit);
     ForEachLazyTerm(visit);
+  }
+  template <class Visit>
+  void ForEachExplicitTerm(Visit&& visit) const {
+    sparse_.ForEach(visit);
+    for (std::size_t i = 0; i < expr.coeffs.size(); ++i) visit(expr.vars[i], expr.coeffs[i]);
   }
 
   // The explicit part with half the limit, then lazy terms, one for each 8 characters that are left.
@@ -82,6 +106,10 @@ class MExpression {
       visit(*variable, LazyFactor(*coefficient));
     }
   }
+  void AddOwnTo(Expr& target, double c) const;
+  void Expand();
+
+  SparseTerms sparse_;
 };
 
 }  // namespace Vorq

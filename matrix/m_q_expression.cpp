@@ -11,7 +11,7 @@ namespace {
 
 // Adds c times a cell times a variable. A constant of 0 gives no term here.
 void AddScaledProduct(QuadExpr& target, MExpression const& cell, Var const& var, double c) {
-  if (cell.expr.constant != 0.0) target.AddTerm(var, cell.expr.constant * c);
+  if (cell.GetConstant() != 0.0) target.AddTerm(var, cell.GetConstant() * c);
   cell.ForEachTerm([&](Var const& other, double factor) { target.AddTerm(other, var, factor * c); });
 }
 
@@ -36,12 +36,12 @@ double MQExpression::GetConstant() const {
 }
 
 void MQExpression::AddProduct(MExpression const& cell, Var const& var) {
-  expr.AddProduct(cell.expr, var);
+  cell.WithExplicitPart([&](Expr const& part) { expr.AddProduct(part, var); });
   cell.ForEachLazyTerm([&](Var const& other, double factor) { expr.AddTerm(other, var, factor); });
 }
 
 void MQExpression::AddProduct(MExpression const& cell, Expr const& other) {
-  expr.AddProduct(cell.expr, other);
+  cell.WithExplicitPart([&](Expr const& part) { expr.AddProduct(part, other); });
   MakeRoomForMore(cell.LazySize() * other.Size(), expr.coeffs, expr.vars1, expr.vars2);
   cell.ForEachLazyTerm([&](Var const& var, double factor) {
     if (other.constant != 0.0) expr.AddTerm(var, factor * other.constant);
@@ -51,9 +51,9 @@ void MQExpression::AddProduct(MExpression const& cell, Expr const& other) {
 
 void MQExpression::AddProduct(MExpression const& a, MExpression const& b, double c) {
   if (c == 1.0) {
-    AddProduct(a, b.expr);
+    b.WithExplicitPart([&](Expr const& part) { AddProduct(a, part); });
   } else {
-    Expr scaled = b.expr;
+    Expr scaled = b.ExplicitPart();
     scaled.Multiply(c);
     AddProduct(a, scaled);
   }

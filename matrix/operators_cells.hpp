@@ -21,7 +21,7 @@ inline std::size_t LinearTermCount(Var const&) {
   return 1;
 }
 inline std::size_t LinearTermCount(MExpression const& cell) {
-  return cell.expr.Size() + cell.LazySize();
+  return cell.ExplicitSize() + cell.LazySize();
 }
 inline std::size_t LinearTermCount(MQExpression const& cell) {
   return cell.expr.linear.Size();
@@ -45,13 +45,22 @@ inline void ReserveProducts(QuadExpr& expr, std::size_t count) {
   expr.vars2.reserve(count);
 }
 
-template <class Out, class Left, class Right>
-void MakeRoom(Out& out, Left const& left, Right const& right) {
+// What the first cell that is added to a new one appends: a linear cell shares the terms of a sparse product.
+template <class Out, class Cell>
+std::size_t FirstTermCount(Cell const& cell) {
+  if constexpr (std::is_same_v<Out, MExpression> && std::is_same_v<Cell, MExpression>) {
+    return cell.expr.Size() + cell.LazySize();
+  } else {
+    return LinearTermCount(cell);
+  }
+}
+
+template <class Out>
+void MakeRoom(Out& out, std::size_t linearTerms, std::size_t products) {
   Expr& linear = LinearPart(out);
-  std::size_t const count = LinearTermCount(left) + LinearTermCount(right);
-  linear.coeffs.reserve(count);
-  linear.vars.reserve(count);
-  if constexpr (std::is_same_v<Out, MQExpression>) ReserveProducts(out.expr, ProductCount(left) + ProductCount(right));
+  linear.coeffs.reserve(linearTerms);
+  linear.vars.reserve(linearTerms);
+  if constexpr (std::is_same_v<Out, MQExpression>) ReserveProducts(out.expr, products);
 }
 
 template <class Out, class Cell>
@@ -69,6 +78,7 @@ void Minus(Out& out, Cell const& cell) {
     LinearPart(out).AddConstant(0.0 - static_cast<double>(cell));
   } else if constexpr (std::is_same_v<Out, PsdExpr> && std::is_same_v<Cell, MExpression>) {
     // The cell's explicit form is what is subtracted: a lazy factor of 0 stays without a sign.
+    cell.Sparse().AddTo(out.linear, -1.0);
     out.linear.AddExpr(cell.expr, -1.0);
     cell.ForEachLazyTerm([&](Var const& var, double factor) { out.linear.AddTerm(var, 0.0 - factor); });
   } else {
@@ -84,7 +94,10 @@ inline void AppendScaled(Expr& to, Expr const& from, double c) {
 
 // A cell times a number. A factor of zero drops the explicit part, and what is lazy gets factors of 0.
 inline void Scale(MExpression& out, MExpression const& cell, double c) {
-  if (c != 0.0) AppendScaled(out.expr, cell.expr, c);
+  if (c != 0.0) {
+    cell.Sparse().ForEach([&](Var const& var, double coeff) { out.AddTerm(var, coeff * c); });
+    AppendScaled(out.expr, cell.expr, c);
+  }
   if (cell.LazySize() == 0) return;
   MExpression lazy(cell.coeffs, cell.vars);
   lazy.scale = c == 0.0 ? 0.0 : cell.scale * c;
@@ -119,7 +132,7 @@ inline void MultiplyCells(MQExpression& out, Var const& left, Var const& right) 
   out.AddTerm(left, right, 1.0);
 }
 inline void MultiplyCells(MQExpression& out, MExpression const& cell, Var const& var) {
-  ReserveProducts(out.expr, cell.expr.Size() + cell.LazySize());
+  ReserveProducts(out.expr, LinearTermCount(cell));
   out.AddProduct(cell, var);
 }
 // The cell comes first, on whichever side it stands.
@@ -134,7 +147,7 @@ inline void MultiplyCells(MQExpression& out, MExpression const& left, MExpressio
 template <Operation kOperation, class Out, class Left, class Right>
 void OperateCells(Out& out, Left const& left, Right const& right) {
   if constexpr (kOperation != Operation::kMul) {
-    MakeRoom(out, left, right);
+    MakeRoom(out, FirstTermCount<Out>(left) + LinearTermCount(right), ProductCount(left) + ProductCount(right));
     Plus(out, left);
     if constexpr (kOperation == Operation::kAdd) {
       Plus(out, right);
@@ -142,10 +155,10 @@ void OperateCells(Out& out, Left const& left, Right const& right) {
       Minus(out, right);
     }
   } else if constexpr (Number<Left>) {
-    MakeRoom(out, left, right);
+    MakeRoom(out, LinearTermCount(right), ProductCount(right));
     Scale(out, right, static_cast<double>(left));
   } else if constexpr (Number<Right>) {
-    MakeRoom(out, left, right);
+    MakeRoom(out, LinearTermCount(left), ProductCount(left));
     Scale(out, left, static_cast<double>(right));
   } else {
     MultiplyCells(out, left, right);

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <limits>
+#include <numeric>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -12,6 +14,7 @@
 #include "matrix/dense_products_cells.hpp"
 #include "matrix/matrix_operand.hpp"
 #include "matrix/readable_cells.hpp"
+#include "matrix/sparse_terms.hpp"
 
 namespace Vorq {
 namespace {
@@ -47,33 +50,42 @@ SparseVectors MajorVectors(SparseMatrix const& a) {
   return {std::max<std::int64_t>(std::int64_t{a.nBeg} - 1, 0), a.beg, a.idx, a.val};
 }
 
-// The minor vectors of a matrix, in arrays of their own.
-class MinorVectors {
- public:
-  explicit MinorVectors(SparseMatrix const& a)
-      : count_(static_cast<std::size_t>(std::max(a.dim, 0))), beg_(count_ + 2) {
-    SparseVectors const major = MajorVectors(a);
-    // The number of entries of vector i at i + 2, then its start at i + 1, which becomes its end.
-    major.ForEach([this](int, int index, double) { ++beg_[static_cast<std::size_t>(index) + 2]; });
-    for (std::size_t i = 2; i < beg_.size(); ++i) beg_[i] += beg_[i - 1];
-    auto const total = static_cast<std::size_t>(beg_.back());
-    idx_.resize(total);
-    val_.resize(total);
-    major.ForEach([this](int j, int index, double value) {
-      auto const place = static_cast<std::size_t>(beg_[static_cast<std::size_t>(index) + 1]++);
-      idx_[place] = j;
-      val_[place] = value;
-    });
+// Copies of the entries, those of one major vector behind those of the other.
+SparseEntries MajorEntries(SparseMatrix const& a) {
+  SparseVectors const major = MajorVectors(a);
+  auto const count = static_cast<std::size_t>(major.count);
+  std::vector<int> begins(count + 1);
+  for (std::size_t j = 0; j < count; ++j) {
+    begins[j + 1] = begins[j] + static_cast<int>(major[static_cast<std::int64_t>(j)].size);
   }
+  SparseEntries entries(std::move(begins));
+  std::vector<int> const& to = entries.begins;
+  for (std::size_t j = 0, end = 0; j < count; j = end) {
+    // Vectors that follow each other in the matrix are copied at once.
+    for (end = j + 1; end < count && std::int64_t{a.beg[end]} - a.beg[j] == to[end] - to[j];) ++end;
+    if (to[end] == to[j]) continue;
+    std::copy_n(a.idx + a.beg[j], to[end] - to[j], entries.places.get() + to[j]);
+    std::copy_n(a.val + a.beg[j], to[end] - to[j], entries.values.get() + to[j]);
+  }
+  return entries;
+}
 
-  operator SparseVectors() const { return {static_cast<std::int64_t>(count_), beg_.data(), idx_.data(), val_.data()}; }
-
- private:
-  std::size_t count_;
-  std::vector<int> beg_;
-  std::vector<int> idx_;
-  std::vector<double> val_;
-};
+// The same for the minor vectors.
+SparseEntries MinorEntries(SparseMatrix const& a) {
+  SparseVectors const major = MajorVectors(a);
+  // The number of entries of vector i at i + 2, then its start at i + 1, which becomes its end.
+  std::vector<int> begins(static_cast<std::size_t>(std::max(a.dim, 0)) + 2);
+  major.ForEach([&begins](int, int index, double) { ++begins[static_cast<std::size_t>(index) + 2]; });
+  std::partial_sum(begins.begin(), begins.end(), begins.begin());
+  SparseEntries entries(std::move(begins));
+  major.ForEach([&entries](int j, int index, double value) {
+    auto const place = static_cast<std::size_t>(entries.begins[static_cast<std::size_t>(index) + 1]++);
+    entries.places[place] = j;
+    entries.values[place] = value;
+  });
+  entries.begins.pop_back();
+  return entries;
+}
 
 template <class... Arguments>
 std::string Text(char const* format, Arguments... arguments) {
@@ -114,42 +126,72 @@ struct Gathered {
 template <class Cell>
 using ResultCell = ProductResult<double, Cell>;
 
+// Makes the cells of a product: the columns, or the rows, of a matrix times the rows of an operand.
 template <class Cell>
-void AddEntries(ResultCell<Cell>& out, Stepping<Cell> cells, SparseVector const& entries) {
-  AddProduct(out, Gathered<Cell>{cells, entries.idx}, entries.val, entries.size);
-}
-
-// The products of the rows of x with the columns of a matrix, row behind row.
-template <class Cell>
-SharedPtr<ResultCell<Cell>> MultiplyRows(MatrixOperand<Cell> const& x, SparseVectors const& columns) {
-  auto const count = static_cast<std::uint64_t>(columns.count);
-  SharedArrayBuilder<ResultCell<Cell>> cells(NDim<2>({x.RowCount(), count}).StoreSize());
-  for (std::uint64_t i = 0; i < x.RowCount(); ++i) {
-    Stepping<Cell> const row{x.Find(i, 0), x.ColumnStride()};
-    for (std::int64_t j = 0; j < columns.count; ++j) AddEntries(cells.Emplace(), row, columns[j]);
+class CellMaker {
+ public:
+  CellMaker(SparseMatrix const& a, SparseOrder wanted, MatrixOperand<Cell> operand)
+      : operand_(std::move(operand)), vectors_(MajorVectors(a)) {
+    if (a.order == wanted) return;
+    minor_.emplace(MinorEntries(a));
+    vectors_ = {std::max(a.dim, 0), minor_->begins.data(), minor_->places.get(), minor_->values.get()};
   }
-  return cells.Finish();
-}
 
-// The products of the rows of a matrix with the columns of x, row behind row.
-template <class Cell>
-SharedPtr<ResultCell<Cell>> MultiplyColumns(SparseVectors const& rows, MatrixOperand<Cell> const& x) {
-  auto const count = static_cast<std::uint64_t>(rows.count);
-  SharedArrayBuilder<ResultCell<Cell>> cells(NDim<2>({count, x.ColumnCount()}).StoreSize());
-  for (std::int64_t i = 0; i < rows.count; ++i) {
-    SparseVector const entries = rows[i];
-    for (std::uint64_t j = 0; j < x.ColumnCount(); ++j) {
-      AddEntries(cells.Emplace(), Stepping<Cell>{x.Find(0, j), x.RowStride()}, entries);
+  std::uint64_t VectorCount() const { return static_cast<std::uint64_t>(vectors_.count); }
+  std::uint64_t RowCount() const { return operand_.RowCount(); }
+
+  // The next cell is that of a vector of the matrix and a row of the operand.
+  void Make(SharedArrayBuilder<ResultCell<Cell>>& cells, std::uint64_t vector, std::uint64_t row) const {
+    SparseVector const entries = vectors_[static_cast<std::int64_t>(vector)];
+    Stepping<Cell> const factors{operand_.Find(row, 0), operand_.ColumnStride()};
+    AddProduct(cells.Emplace(), Gathered<Cell>{factors, entries.idx}, entries.val, entries.size);
+  }
+
+ private:
+  MatrixOperand<Cell> operand_;
+  std::optional<SparseEntries> minor_;
+  SparseVectors vectors_;
+};
+
+// The cells of a product with variables share its factors.
+template <>
+class CellMaker<Var> {
+ public:
+  CellMaker(SparseMatrix const& a, SparseOrder wanted, MatrixOperand<Var> const& operand)
+      : rowCount_(operand.RowCount()),
+        factors_(Factors(a.order == wanted ? MajorEntries(a) : MinorEntries(a), operand)) {}
+
+  std::uint64_t VectorCount() const { return factors_->entries.begins.size() - 1; }
+  std::uint64_t RowCount() const { return rowCount_; }
+
+  void Make(SharedArrayBuilder<MExpression>& cells, std::uint64_t vector, std::uint64_t row) const {
+    cells.Emplace(SparseTerms(factors_, static_cast<std::uint32_t>(vector), static_cast<std::uint32_t>(row)));
+  }
+
+ private:
+  static SharedPtr<SparseFactors> Factors(SparseEntries entries, MatrixOperand<Var> const& operand) {
+    std::size_t const count = entries.Size();
+    auto const copy = [&](std::size_t length, auto placeOf) {
+      SharedArrayBuilder<Var> vars(NDim<2>({operand.RowCount(), length}).StoreSize());
+      for (std::uint64_t row = 0; row < operand.RowCount(); ++row) {
+        for (std::size_t k = 0; k < length; ++k) vars.Emplace(*operand.Find(row, placeOf(k)));
+      }
+      return vars.Finish();
+    };
+    std::size_t length = operand.ColumnCount();
+    if (length <= count) {
+      SharedPtr<Var> vars = copy(length, [](std::size_t k) { return k; });
+      return MakeShared<SparseFactors>(std::move(entries), std::move(vars), length);
     }
+    // Of a long vector only what the entries meet is kept, one variable for each.
+    SharedPtr<Var> vars = copy(count, [&](std::size_t k) { return static_cast<std::uint64_t>(entries.places[k]); });
+    std::iota(entries.places.get(), entries.places.get() + count, 0);
+    return MakeShared<SparseFactors>(std::move(entries), std::move(vars), count);
   }
-  return cells.Finish();
-}
 
-// Calls multiply(vectors) with the columns, or the rows, of a matrix.
-template <class Multiply>
-auto WithVectors(SparseMatrix const& a, SparseOrder wanted, Multiply&& multiply) {
-  return a.order == wanted ? multiply(MajorVectors(a)) : multiply(SparseVectors(MinorVectors(a)));
-}
+  std::uint64_t rowCount_;
+  SharedPtr<SparseFactors> factors_;
+};
 
 // Whether `size` is the number of columns or of rows. A matrix without starts has -1 of them for the failure, and takes
 // an empty operand.
@@ -169,11 +211,14 @@ MatrixObject<ResultCell<Cell>, N> MatMult(MatrixObject<Cell, N> const& x, Sparse
                               .c_str());
   }
   if (std::string const fault = FindFault(a); !fault.empty()) return Result::Failed(fault.c_str());
-  return WithVectors(a, SparseOrder::kColumns, [&](SparseVectors const& columns) {
-    sizes.back() = static_cast<std::uint64_t>(columns.count);
-    return Result(NdArray<ResultCell<Cell>, N>(NDim<N>(sizes),
-                                               MultiplyRows(MatrixOperand<Cell>::Left(ReadableCells(x)), columns)));
-  });
+  CellMaker<Cell> const maker(a, SparseOrder::kColumns, MatrixOperand<Cell>::Left(ReadableCells(x)));
+  sizes.back() = maker.VectorCount();
+  NDim<N> shape(sizes);
+  SharedArrayBuilder<ResultCell<Cell>> cells(shape.StoreSize());
+  for (std::uint64_t i = 0; i < maker.RowCount(); ++i) {
+    for (std::uint64_t j = 0; j < maker.VectorCount(); ++j) maker.Make(cells, j, i);
+  }
+  return Result(NdArray<ResultCell<Cell>, N>(std::move(shape), cells.Finish()));
 }
 
 template <class Cell, int N>
@@ -186,11 +231,14 @@ MatrixObject<ResultCell<Cell>, N> MatMult(SparseMatrix const& a, MatrixObject<Ce
                               .c_str());
   }
   if (std::string const fault = FindFault(a); !fault.empty()) return Result::Failed(fault.c_str());
-  return WithVectors(a, SparseOrder::kRows, [&](SparseVectors const& rows) {
-    sizes.front() = static_cast<std::uint64_t>(rows.count);
-    return Result(NdArray<ResultCell<Cell>, N>(NDim<N>(sizes),
-                                               MultiplyColumns(rows, MatrixOperand<Cell>::Right(ReadableCells(x)))));
-  });
+  CellMaker<Cell> const maker(a, SparseOrder::kRows, MatrixOperand<Cell>::Right(ReadableCells(x)).Transposed());
+  sizes.front() = maker.VectorCount();
+  NDim<N> shape(sizes);
+  SharedArrayBuilder<ResultCell<Cell>> cells(shape.StoreSize());
+  for (std::uint64_t i = 0; i < maker.VectorCount(); ++i) {
+    for (std::uint64_t j = 0; j < maker.RowCount(); ++j) maker.Make(cells, i, j);
+  }
+  return Result(NdArray<ResultCell<Cell>, N>(std::move(shape), cells.Finish()));
 }
 
 MQuadExpr<0> MatMult(MVar<1> const& x, SparseMatrix const& a, MVar<1> const& y) {

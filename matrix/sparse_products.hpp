@@ -6,7 +6,8 @@
 //     MQuadExpr<0> form = MatMult(y, a, x);
 //
 // A left vector is a row, a right vector a column. All cells of the result are explicit: one term or cell of the
-// operand for each entry, in the order of the entries; also where the entry is 0. Duplicates stay.
+// operand for each entry, in the order of the entries; also where the entry is 0. Duplicates stay. The terms of a
+// product with variables stand together once, and its cells share them (sparse_terms.hpp).
 //
 // Sizes that do not match give a result whose sizes are all 1, of one default cell, whose status tells why. So does an
 // entry whose index lies outside the matrix, and an array that is missing.

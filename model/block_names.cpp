@@ -5,6 +5,8 @@
 #include <array>
 #include <charconv>
 
+#include "frame/growth.hpp"
+#include "frame/huge_pages.hpp"
 #include "items/normalize_name.hpp"
 
 namespace Vorq {
@@ -83,10 +85,12 @@ class IndexText {
 void BlockNames::Write(std::string_view prefix, std::span<std::uint64_t const> sizes) {
   std::size_t count = 1;
   for (std::uint64_t const size : sizes) count *= size;
-  pointers_.reserve(count);
+  ReserveMore(pointers_, count);
   // WriteNumber may look at the room of its longest number behind the last name.
   constexpr std::size_t kSpareRoom = 24;
-  buffer_.reset(new char[count * (prefix.size() + IndexText::Longest(sizes)) + kSpareRoom]);
+  std::size_t const room = count * (prefix.size() + IndexText::Longest(sizes)) + kSpareRoom;
+  buffer_.reset(new char[room]);
+  AdviseHugePages(buffer_.get(), room);
   char* end = buffer_.get();
   IndexText index(sizes);
   for (std::size_t i = 0; i < count; ++i) {

@@ -21,7 +21,8 @@
 #include "frame/status.hpp"
 #include "items/item_arrays.hpp"
 #include "items/prob_handle.hpp"
-#include "model/callback_cut_kinds.hpp"
+#include "matrix/matrix_constr_builder.hpp"
+#include "model/cut_kinds.hpp"
 #include "model/term_merger.hpp"
 
 namespace Vorq {
@@ -59,6 +60,11 @@ class CallbackProxy {
   void AddCut(CallbackCutKind const& kind, ConstrBuilder& builder);
   // None is added if one has sense 'N' or 'R'.
   void AddCuts(CallbackCutKind const& kind, ConstrBuilderArray& builders);
+  template <int N>
+  void AddCuts(CallbackCutKind const& kind, MConstrBuilder<N> const& builder) {
+    ConstrBuilderArray builders = ToConstrBuilderArray(builder);
+    AddCuts(kind, builders);
+  }
 
   // Information by name, 0 on failure.
   int GetIntInfo(char const* name);

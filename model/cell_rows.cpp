@@ -16,7 +16,13 @@ bool AreSame(StridedVector<Var> const& a, StridedVector<Var> const& b) {
 
 // Whether the cell is nothing but its lazy product, apart from its constant.
 bool IsLazyProduct(MExpression const& cell) {
-  return cell.expr.Size() == 0 && !cell.vars.IsEmpty() && cell.coeffs.Size() >= cell.vars.Size() && cell.scale != 0.0;
+  return cell.ExplicitSize() == 0 && !cell.vars.IsEmpty() && cell.coeffs.Size() >= cell.vars.Size() &&
+         cell.scale != 0.0;
+}
+
+// Whether the cell is nothing but terms of a sparse product, apart from its constant.
+bool IsSparseProduct(MExpression const& cell) {
+  return !cell.Sparse().IsEmpty() && cell.expr.Size() == 0 && cell.vars.IsEmpty();
 }
 
 // Whether the coefficients can be read as they lie there.
@@ -33,10 +39,10 @@ bool HasZero(double const* values, std::size_t count) {
 
 }  // namespace
 
-CellRows::CellRows(std::vector<int>& marks, std::size_t rows, std::size_t terms) : marks_(marks), terms_(terms) {
-  begins_.reserve(rows);
-  counts_.reserve(rows);
-  ReserveMore(indices_, terms);
+CellRows::CellRows(std::vector<int>& marks, std::size_t rows, std::size_t terms)
+    : marks_(marks), indices_(terms), coefficients_(terms), factorColumns_(terms) {
+  ReserveMore(begins_, rows);
+  ReserveMore(counts_, rows);
 }
 
 void CellRows::Add(MExpression const& cell) {
@@ -63,10 +69,11 @@ void CellRows::Finish() {
 }
 
 void CellRows::Write(MExpression const& cell) {
-  std::size_t const begin = indices_.size();
+  std::size_t const begin = indices_.Size();
   begins_.push_back(static_cast<int>(begin));
-  if (!IsLazyProduct(cell) || !AddSharedRow(cell)) AddOwnRow(cell);
-  counts_.push_back(static_cast<int>(indices_.size() - begin));
+  bool const isShared = IsSparseProduct(cell) ? AddSparseRow(cell.Sparse()) : IsLazyProduct(cell) && AddSharedRow(cell);
+  if (!isShared) AddOwnRow(cell);
+  counts_.push_back(static_cast<int>(indices_.Size() - begin));
 }
 
 // False, with nothing added, for a row that shares no columns with the one before.
@@ -74,31 +81,72 @@ bool CellRows::AddSharedRow(MExpression const& cell) {
   if (!FindColumns(cell.vars)) return false;
   std::size_t const count = columns_.size();
   double const* coefficient = cell.coeffs.First();
-  bool const isPlain = IsPlain(cell) && !HasZero(coefficient, count);
-  if (source_ != nullptr && isPlain && coefficient == source_ + indices_.size()) {
-    indices_.insert(indices_.end(), columns_.begin(), columns_.end());
+  std::vector<int>& indices = indices_.Numbers();
+  if (IsPlain(cell) && !HasZero(coefficient, count)) {
+    indices.insert(indices.end(), columns_.begin(), columns_.end());
+    coefficients_.Append(coefficient, count);
     return true;
   }
-  CopySource();
-  if (isPlain) {
-    indices_.insert(indices_.end(), columns_.begin(), columns_.end());
-    coefficients_.insert(coefficients_.end(), coefficient, coefficient + count);
-    return true;
-  }
+  std::vector<double>& coefficients = coefficients_.Numbers();
   for (std::size_t i = 0; i < count; ++i, coefficient += cell.coeffs.Stride()) {
     if (*coefficient == 0.0) continue;
-    indices_.push_back(columns_[i]);
-    coefficients_.push_back(*coefficient * cell.scale);
+    indices.push_back(columns_[i]);
+    coefficients.push_back(*coefficient * cell.scale);
   }
   return true;
 }
 
+// False, with nothing added, for a row that has to be merged, or whose columns are not known.
+bool CellRows::AddSparseRow(SparseTerms const& terms) {
+  std::size_t const count = terms.Size();
+  int const* const columns = factorColumns_.Find(terms);
+  if (columns == nullptr || HasZero(terms.Values(), count)) return false;
+  int const* indices = terms.Places();
+  bool const isInPlace = factorColumns_.AreInOrder() && terms.VectorBegin() == 0;
+  if (!isInPlace) {
+    row_.resize(count);
+    for (std::size_t k = 0; k < count; ++k) row_[k] = columns[indices[k]];
+    indices = row_.data();
+  }
+  if (!AreDistinctColumns({indices, count})) return false;
+  if (isInPlace) {
+    indices_.Append(indices, count);
+  } else {
+    indices_.Numbers().insert(indices_.Numbers().end(), row_.begin(), row_.end());
+  }
+  coefficients_.Append(terms.Values(), count);
+  return true;
+}
+
 void CellRows::AddOwnRow(MExpression const& cell) {
-  CopySource();
-  bool const isFirst = indices_.empty();
-  std::size_t const count = CollectTerms(cell, marks_, indices_, coefficients_);
+  bool const isFirst = indices_.Size() == 0;
+  int const* const sparseColumns = cell.Sparse().IsEmpty() ? nullptr : factorColumns_.Find(cell.Sparse());
+  std::size_t const count = CollectTerms(cell, marks_, indices_.Numbers(), coefficients_.Numbers(), sparseColumns);
   // A first row without merged and without missing terms may turn out to be the first of a matrix.
-  if (isFirst && IsLazyProduct(cell) && IsPlain(cell) && count == cell.LazySize()) source_ = cell.coeffs.First();
+  if (isFirst && IsLazyProduct(cell) && IsPlain(cell) && count == cell.LazySize()) {
+    coefficients_.StandAt(cell.coeffs.First());
+  }
+}
+
+// Whether all columns are of the model, and none comes twice.
+bool CellRows::AreDistinctColumns(std::span<int const> columns) {
+  // What is negative has the sign bit, as has a step that does not go up: one operation takes many.
+  int signs = 0;
+  for (int const column : columns) signs |= column;
+  if (signs < 0) return false;
+  for (std::size_t k = 1; k < columns.size(); ++k) signs |= columns[k] - columns[k - 1] - 1;
+  if (signs >= 0) return true;
+  auto const words = static_cast<std::size_t>(factorColumns_.Greatest()) / 64 + 1;
+  if (seen_.size() < words) seen_.resize(words);
+  bool isTwice = false;
+  for (int const column : columns) {
+    std::uint64_t& word = seen_[static_cast<std::size_t>(column) / 64];
+    std::uint64_t const bit = std::uint64_t{1} << (column % 64);
+    isTwice = isTwice || (word & bit) != 0;
+    word |= bit;
+  }
+  for (int const column : columns) seen_[static_cast<std::size_t>(column) / 64] = 0;
+  return !isTwice;
 }
 
 bool CellRows::FindColumns(StridedVector<Var> const& vars) {
@@ -116,14 +164,6 @@ bool CellRows::FindColumns(StridedVector<Var> const& vars) {
     if (CollectTerms(sum, marks_, columns_, coefficients) != vars.Size()) columns_.clear();
   }
   return !columns_.empty();
-}
-
-void CellRows::CopySource() {
-  if (coefficients_.capacity() < terms_) ReserveMore(coefficients_, terms_ - coefficients_.size());
-  if (source_ == nullptr) return;
-  std::size_t const copied = coefficients_.size();
-  coefficients_.insert(coefficients_.end(), source_ + copied, source_ + indices_.size());
-  source_ = nullptr;
 }
 
 }  // namespace Vorq

@@ -2,14 +2,19 @@
 //
 // Each row is written once, from the vectors of its cell. The rows of a product of a matrix and one vector of variables
 // share the columns of that vector, and as long as their coefficients lie behind each other in the matrix they are not
-// copied at all: the solver library gets them from there. The cells must stay as they are until it has them.
+// copied at all: the solver library gets them from there. So it does with the rows of a sparse product, also the
+// indices where they are columns as they stand. The cells must stay as they are until it has them.
 #pragma once
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
+#include <span>
 #include <vector>
 
 #include "matrix/m_expression.hpp"
+#include "model/factor_columns.hpp"
+#include "model/run_list.hpp"
 
 namespace Vorq {
 
@@ -22,11 +27,11 @@ class CellRows {
   void Add(MExpression const& cell);
   void Finish();
 
-  std::size_t EntryCount() const { return indices_.size(); }
+  std::size_t EntryCount() const { return indices_.Size(); }
   int const* Begins() const { return begins_.data(); }
   int const* Counts() const { return counts_.data(); }
-  int const* Indices() const { return indices_.data(); }
-  double const* Coefficients() const { return source_ != nullptr ? source_ : coefficients_.data(); }
+  int const* Indices() const { return indices_.Data(); }
+  double const* Coefficients() const { return coefficients_.Data(); }
 
  private:
   // The indices of the variables of a cell are asked for this many cells before it is written, and the marks of its
@@ -36,19 +41,17 @@ class CellRows {
   void PrefetchMarks(MExpression const& cell) const;
   void Write(MExpression const& cell);
   bool AddSharedRow(MExpression const& cell);
+  bool AddSparseRow(SparseTerms const& terms);
   void AddOwnRow(MExpression const& cell);
   // The distinct columns of the vector that the row before had too; none where there are no such columns.
   bool FindColumns(StridedVector<Var> const& vars);
-  void CopySource();
+  bool AreDistinctColumns(std::span<int const> columns);
 
   std::vector<int>& marks_;
-  std::size_t terms_;
   std::vector<int> begins_;
   std::vector<int> counts_;
-  std::vector<int> indices_;
-  std::vector<double> coefficients_;
-  // Where the coefficients of all rows so far lie behind each other; null if they do not, and stand in `coefficients_`.
-  double const* source_ = nullptr;
+  RunList<int> indices_;
+  RunList<double> coefficients_;
 
   std::array<MExpression const*, kAhead> waiting_{};
   std::size_t turn_ = 0;
@@ -58,6 +61,11 @@ class CellRows {
   StridedVector<Var> const* vars_ = nullptr;
   std::vector<int> columns_;
   bool hasColumns_ = false;
+
+  // For the rows of sparse products.
+  FactorColumns factorColumns_;
+  std::vector<int> row_;
+  std::vector<std::uint64_t> seen_;  // one bit for each column, all clear between rows
 };
 
 }  // namespace Vorq

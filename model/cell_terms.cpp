@@ -23,8 +23,8 @@ class EntryMerger {
   void MakeRoom(std::size_t terms) { MakeRoomForMore(terms, indices_, coefficients_); }
 
   // Expects room for the entry.
-  void Add(Var const& var, double coefficient) {
-    int const index = var.Idx();
+  void Add(Var const& var, double coefficient) { Add(var.Idx(), coefficient); }
+  void Add(int index, double coefficient) {
     if (index < 0) return;
     auto const column = static_cast<std::size_t>(index);
     if (column >= marks_.size()) marks_.resize(column + 1);
@@ -50,6 +50,20 @@ class EntryMerger {
 void AddExplicitTerms(Expr const& expr, EntryMerger& merger) {
   for (std::size_t i = 0; i < expr.coeffs.size(); ++i) {
     if (expr.coeffs[i] != 0.0) merger.Add(expr.vars[i], expr.coeffs[i]);
+  }
+}
+
+void AddSparseTerms(SparseTerms const& terms, int const* columns, EntryMerger& merger) {
+  if (columns == nullptr) {
+    terms.ForEach([&merger](Var const& var, double coefficient) {
+      if (coefficient != 0.0) merger.Add(var, coefficient);
+    });
+    return;
+  }
+  int const* const places = terms.Places();
+  double const* const values = terms.Values();
+  for (std::size_t k = 0; k < terms.Size(); ++k) {
+    if (values[k] != 0.0) merger.Add(columns[places[k]], values[k]);
   }
 }
 
@@ -91,7 +105,7 @@ class QuadraticEntries {
 template <class Visit>
 void ForEachFactor(MExpression const& cell, Visit&& visit) {
   cell.ForEachLazyTerm(visit);
-  for (std::size_t i = 0; i < cell.expr.coeffs.size(); ++i) visit(cell.expr.vars[i], cell.expr.coeffs[i]);
+  cell.ForEachExplicitTerm(visit);
 }
 
 void AddProducts(StridedVector<MExpression> const& cells, StridedVector<Var> const& vars, std::uint64_t size,
@@ -130,11 +144,12 @@ void AddLazyProducts(MQExpression const& cell, QuadraticEntries& entries) {
 }  // namespace
 
 std::size_t CollectTerms(MExpression const& cell, std::vector<int>& marks, std::vector<int>& indices,
-                         std::vector<double>& coefficients) {
+                         std::vector<double>& coefficients, int const* sparseColumns) {
   // A scale of NaN counts.
   bool const hasLazyPart = cell.scale != 0.0 && !cell.vars.IsEmpty() && !cell.coeffs.IsEmpty();
   EntryMerger merger(marks, indices, coefficients);
-  merger.MakeRoom(cell.expr.Size() + (hasLazyPart ? cell.LazySize() : 0));
+  merger.MakeRoom(cell.ExplicitSize() + (hasLazyPart ? cell.LazySize() : 0));
+  AddSparseTerms(cell.Sparse(), sparseColumns, merger);
   AddExplicitTerms(cell.expr, merger);
   if (hasLazyPart) AddLazyTerms(cell, merger);
   return merger.Count();

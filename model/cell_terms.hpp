@@ -20,8 +20,11 @@ namespace Vorq {
 //
 // `marks` has one entry for each column, all of them zero before and after, also when memory runs out in between. It is
 // made longer for a variable beyond its end, which belongs to another model: the solver library judges such an index.
+//
+// `sparseColumns` are the columns of the vector of variables that the cell's sparse terms refer to, where they are
+// known already.
 std::size_t CollectTerms(MExpression const& cell, std::vector<int>& marks, std::vector<int>& indices,
-                         std::vector<double>& coefficients);
+                         std::vector<double>& coefficients, int const* sparseColumns = nullptr);
 
 // The same with an expression's terms alone.
 std::size_t CollectTerms(Expr const& expr, std::vector<int>& marks, std::vector<int>& indices,

@@ -1,26 +1,30 @@
-// User cuts and lazy constraints: rows that the solver library keeps apart, and for which no item is made.
+// User cuts and lazy constraints, for which no item is made: rows that the solver library keeps apart, and those that a
+// callback adds. Two functions and texts for each.
 #pragma once
 
 #include "frame/vorq_solver.h"
 
 namespace Vorq {
 
-struct CutKind {
-  int (*addOne)(VORQ_Prob* prob, int n, int const* cols, double const* coefs, int sense, double bound, double upper,
-                char const* name);
-  int (*addMany)(VORQ_Prob* prob, int count, int const* rowBeg, int const* rowCnt, int const* cols, double const* coefs,
-                 char const* senses, double const* lowers, double const* uppers, char const* const* names);
+template <class AddOne, class AddMany>
+struct CutFunctions {
+  AddOne* addOne;
+  AddMany* addMany;
   char const* addOneFailed;
   char const* addManyFailed;
 };
 
-inline constexpr CutKind kUserCut{.addOne = VORQ_AddUserCut,
-                                  .addMany = VORQ_AddUserCuts,
-                                  .addOneFailed = "Fail to add user cut to model",
-                                  .addManyFailed = "Fail to add user cuts to model"};
-inline constexpr CutKind kLazyConstr{.addOne = VORQ_AddLazyConstr,
-                                     .addMany = VORQ_AddLazyConstrs,
-                                     .addOneFailed = "Fail to add lazy constraint to model",
-                                     .addManyFailed = "Fail to add lazy constraints to model"};
+using CutKind = CutFunctions<decltype(VORQ_AddUserCut), decltype(VORQ_AddUserCuts)>;
+using CallbackCutKind = CutFunctions<decltype(VORQ_AddCallbackUserCut), decltype(VORQ_AddCallbackUserCuts)>;
+
+inline constexpr CutKind kUserCut{VORQ_AddUserCut, VORQ_AddUserCuts, "Fail to add user cut to model",
+                                  "Fail to add user cuts to model"};
+inline constexpr CutKind kLazyConstr{VORQ_AddLazyConstr, VORQ_AddLazyConstrs, "Fail to add lazy constraint to model",
+                                     "Fail to add lazy constraints to model"};
+inline constexpr CallbackCutKind kCallbackUserCut{VORQ_AddCallbackUserCut, VORQ_AddCallbackUserCuts,
+                                                  "Fail to add cut in callback", "Fail to add cuts in callback"};
+inline constexpr CallbackCutKind kCallbackLazyConstr{VORQ_AddCallbackLazyConstr, VORQ_AddCallbackLazyConstrs,
+                                                     "Fail to add lazy constraint in callback",
+                                                     "Fail to add lazy constraints in callback"};
 
 }  // namespace Vorq

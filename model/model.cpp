@@ -13,8 +13,9 @@ constexpr char const* kResetParamFailed = "Fail to reset parameter settings";
 
 Model::Model(Envr const& envr, char const* name) : core_(MakeShared<ModelCore>()) {
   core_->env = envr.Handle();
-  core_->name = name;
+  core_->name = name == nullptr ? "" : name;
   core_->prob = MakeShared<ProbHandle>(envr.Handle()->env);
+  if (name == nullptr) Refuse("The name of the model is null");
   if (Prob() == nullptr) Record(kMemory, "Critical: fail to create problem");
 }
 
@@ -22,8 +23,13 @@ void Model::EnsureDense(int size) {
   auto const wanted = static_cast<std::size_t>(std::max(size, 0));
   if (denseVal_.size() >= wanted) return;
   denseVal_.resize(wanted);
-  denseFlag_.resize(wanted);
   denseIdx_.resize(wanted);
+  EnsureMarks(size);
+}
+
+void Model::EnsureMarks(int size) {
+  auto const wanted = static_cast<std::size_t>(std::max(size, 0));
+  if (denseFlag_.size() < wanted) denseFlag_.resize(wanted);
 }
 
 bool Model::TakeNames(char const* names, std::size_t length, int count, std::vector<char const*>& result) {

@@ -23,7 +23,6 @@
 #include <utility>
 #include <vector>
 
-#include "frame/growth.hpp"
 #include "frame/status.hpp"
 #include "items/item_arrays.hpp"
 #include "items/lmi_expr.hpp"
@@ -66,7 +65,7 @@ class MatrixConstrBuilder;
 
 class Model {
  public:
-  // `name` must not be null.
+  // A null name is a failure, and counts as empty.
   Model(Envr const& envr, char const* name);
   // A model on a core that is complete: the result of Clone.
   explicit Model(SharedPtr<ModelCore> core) : core_(std::move(core)) {}
@@ -88,10 +87,9 @@ class Model {
   void ReloadItems();
   // Makes the scratch arrays hold at least `size` entries.
   void EnsureDense(int size);
-  // Told the number of columns whenever it shrinks or is read anew, and before a solve, which false refuses. Clear
-  // forgets it.
+  // What a callback needs to know: told the number of columns whenever it shrinks or is read anew, and before a solve,
+  // which false refuses. Set with the callback; Clear forgets it.
   using ColumnCountListener = std::function<bool(int columnCount)>;
-  void SetColumnCountListener(ColumnCountListener listener) { columnCountListener_ = std::move(listener); }
 
   SharedPtr<ModelCore> Clone();
   void Clear();
@@ -436,17 +434,16 @@ class Model {
 
   // Appends the item that the solver library has just numbered.
   template <class Item, class... Dimension>
-  Item& Append(std::string name, Dimension... dimension) {
+  Item& Append(std::string_view name, Dimension... dimension) {
     ItemTable<Item>& table = core_->Table<Item>();
-    ReserveMore(table.items, 1);
-    Item& item = table.items.emplace_back(core_->prob, std::move(name), table.count, dimension...);
+    Item& item = table.items.emplace_back(core_->prob, name, table.count, dimension...);
     ++table.count;
     return item;
   }
   template <class Item, class... Dimension>
-  Item Added(int code, char const* text, std::string name, Dimension... dimension) {
+  Item Added(int code, char const* text, std::string_view name, Dimension... dimension) {
     if (!Record(code, text)) return Invalid<Item>();
-    return Append<Item>(std::move(name), dimension...);
+    return Append<Item>(name, dimension...);
   }
   // `dimensions` have one entry for each name.
   template <class Item, class... Dimensions>
@@ -454,7 +451,7 @@ class Model {
                              Dimensions const*... dimensions) {
     std::vector<Item> added;
     if (!Record(code, text)) return added;
-    ReserveMore(core_->Table<Item>().items, names.size());
+    core_->Table<Item>().items.reserve_more(names.size());
     added.reserve(names.size());
     for (std::size_t i = 0; i < names.size(); ++i) added.push_back(Append<Item>(names[i], dimensions[i]...));
     return added;
@@ -467,13 +464,17 @@ class Model {
 
   // ---- Terms
 
-  // Merges the terms of an expression or a column in place and appends their indices. `size` bounds the indices of
-  // this model's items; those of another model's are made room for, and left to the solver library to judge.
-  template <class Terms>
-  void Compact(Terms& terms, int size, std::vector<int>& indices);
-  // The same into `indices_`, for calls with one expression; the result is the number of terms.
+  // Makes only the marks of the scratch arrays hold at least `size` entries, which is all that terms need of which none
+  // are merged.
+  void EnsureMarks(int size);
+  // Merges the terms of an expression or a column in place and leaves their indices in `indices_`; the result is their
+  // number. `size` bounds the indices of this model's items; those of another model's are made room for, and left to
+  // the solver library to judge.
   template <class Terms>
   int Compact(Terms& terms, int size);
+  // The same, the indices being appended to a list.
+  template <class Terms>
+  void Compact(Terms& terms, int size, std::vector<int>& indices);
   // The same to the end of a batch, with the coefficients.
   template <class Terms>
   void Flatten(Terms& terms, int size, TermBatch& batch);
@@ -538,7 +539,7 @@ class Model {
   template <class Item>
   bool CloneTable(ModelCore& copy);
   bool TellColumnCount();
-  Constraint AddRow(Expr& expr, int sense, double bound, double upper, std::string name);
+  Constraint AddRow(Expr& expr, int sense, double bound, double upper, std::string const& name);
   int FlattenBuilders(ConstrBuilderArray& builders, RowBatch& batch);
   // The rows of a block in one call. `upper` counts for ranges.
   template <int N>
@@ -551,7 +552,7 @@ class Model {
   GenConstr AddIndicator(Var const& var, int value, double const* coeffs, char sense, double rhs, int type,
                          char const* name);
   void ReplaceObjective(double const* coeffs, double constant, int sense);
-  PsdConstraint AddPsdRow(PsdExpr& expr, int sense, double bound, double upper, std::string name);
+  PsdConstraint AddPsdRow(PsdExpr& expr, int sense, double bound, double upper, std::string const& name);
   // Makes a matrix of each coefficient; false at one that fails, those before it staying.
   bool AddMatrices(std::vector<SymMatExpr> const& coeffs, std::vector<int>& matrices, int* dim = nullptr);
   // Carries out removals and reads what an infinite bound is. False if there is nothing to relax.
@@ -561,7 +562,7 @@ class Model {
   std::vector<Item> AddEachRow(MatrixObject<Cell, 2> const& block, Step addCone);
   struct AffineConeData;
   bool FlattenPsdTerms(MPsdExpr<1> const& exprs, AffineConeData& data);
-  AffineCone AddAffineConeData(AffineConeData const& data, std::string name);
+  AffineCone AddAffineConeData(AffineConeData const& data, std::string const& name);
   bool ReadAffineCone(int index, AffineConeData& data);
   bool MakeAffineRow(AffineConeData const& data, std::size_t place, PsdExpr& row);
   template <class Reader>

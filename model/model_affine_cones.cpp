@@ -45,7 +45,7 @@ T const* DataIf(bool isWanted, std::vector<T> const& values) {
 
 }  // namespace
 
-AffineCone Model::AddAffineConeData(AffineConeData const& data, std::string name) {
+AffineCone Model::AddAffineConeData(AffineConeData const& data, std::string const& name) {
   TermBatch const& linear = data.linear;
   int const code = VORQ_AddAffineCone(Prob(), data.type, static_cast<int>(data.constants.size()), 0, 0,
                                       DataIf(data.hasPsd, data.psd.begin), DataIf(data.hasPsd, data.psd.count),
@@ -53,7 +53,7 @@ AffineCone Model::AddAffineConeData(AffineConeData const& data, std::string name
                                       DataIf(data.hasLinear, linear.begins), DataIf(data.hasLinear, linear.counts),
                                       DataIf(data.hasLinear, linear.indices), DataIf(data.hasLinear, linear.coeffs),
                                       data.constants.data(), name.c_str());
-  return Added<AffineCone>(code, "Fail to add an affine cone", std::move(name));
+  return Added<AffineCone>(code, "Fail to add an affine cone", name);
 }
 
 AffineCone Model::AddAffineCone(MLinExpr<1> const& exprs, int type, char const* name) {
@@ -189,20 +189,18 @@ AffineConeBuilder Model::GetAffineConeBuilder(AffineCone const& cone) {
   return builder;
 }
 
+// A cone that cannot be read does not end the walk: its builder is empty, and the status is that of the last read.
 AffineConeBuilderArray Model::GetAffineConeBuilders(AffineConeArray const& cones) {
-  if (cones.empty()) {
-    return BuildersOfLive<AffineCone, AffineConeBuilder>([&](AffineCone const& cone, AffineConeBuilder& builder) {
-      builder = GetAffineConeBuilder(cone);
-      return !status.Failed();
-    });
-  }
   AffineConeBuilderArray builders;
-  for (AffineCone const& cone : cones) {
-    AffineConeBuilder builder = GetAffineConeBuilder(cone);
-    // A cone that is not live leaves the status alone, and has an empty builder.
-    if (cone.IsLive() && status.Failed()) break;
-    builders.push_back(std::move(builder));
+  if (cones.empty()) {
+    for (int i = 0; i < Count<AffineCone>(); ++i) {
+      auto const cone = Get<AffineCone>(i);
+      if (cone.IsLive()) builders.push_back(GetAffineConeBuilder(cone));
+    }
+    return builders;
   }
+  builders.reserve(cones.size());
+  for (AffineCone const& cone : cones) builders.push_back(GetAffineConeBuilder(cone));
   return builders;
 }
 

@@ -22,11 +22,11 @@ Constraint Model::AddConstr(MExpression const& cell, char sense, double rhs, cha
   if (!IsPlainSense(sense)) Refuse(kInvalidSense);
   // A failure that an earlier operation left stops this one too, which is meant.
   if (status.Failed()) return Invalid<Constraint>();
-  std::string normalized = NormalizeName(name);
+  std::string const normalized = NormalizeName(name);
   int const count = static_cast<int>(Collect(cell));
   int const code = VORQ_AddRow(Prob(), count, indices_.data(), coeffs_.data(), sense, rhs - cell.GetConstant(),
                                kInfinity, normalized.c_str());
-  return Added<Constraint>(code, "Fail to add a constraint", std::move(normalized));
+  return Added<Constraint>(code, "Fail to add a constraint", normalized);
 }
 
 template <int N>
@@ -40,28 +40,31 @@ MConstr<N> Model::AddRowBlock(MLinExpr<N> const& expr, char sense, double upper,
   if (!cells.HasElements()) return MConstr<N>(NdArray<Constraint, N>(shape.Clone(), {}));
   BlockNames const names(shape, prefix);
 
-  std::size_t const count = shape.GetSize();
-  std::size_t terms = 0;
-  cells.ForEach([&terms](MExpression const& cell) { terms += cell.expr.Size() + cell.LazySize(); });
-  EnsureDense(Count<Var>());
-  CellRows rows(denseIdx_, count, terms);
-  std::vector<double> lowers;
-  lowers.reserve(count);
-  cells.ForEach([&](MExpression const& cell) {
-    rows.Add(cell);
-    lowers.push_back(sense == 'N' ? -kInfinity : 0.0 - cell.GetConstant());
-  });
-  rows.Finish();
-  if (rows.EntryCount() > kMaxCount) {
-    SetStatus(status, kInvalid, "Fail to add constraints of %zu linear items", rows.EntryCount());
-    return {};
+  {
+    // What is handed over goes before the items come.
+    std::size_t const count = shape.GetSize();
+    std::size_t terms = 0;
+    cells.ForEach([&terms](MExpression const& cell) { terms += cell.ExplicitSize() + cell.LazySize(); });
+    EnsureDense(Count<Var>());
+    CellRows rows(denseIdx_, count, terms);
+    std::vector<double> lowers;
+    ReserveMore(lowers, count);
+    cells.ForEach([&](MExpression const& cell) {
+      rows.Add(cell);
+      lowers.push_back(sense == 'N' ? -kInfinity : 0.0 - cell.GetConstant());
+    });
+    rows.Finish();
+    if (rows.EntryCount() > kMaxCount) {
+      SetStatus(status, kInvalid, "Fail to add constraints of %zu linear items", rows.EntryCount());
+      return {};
+    }
+    std::string const senses(count, sense);
+    std::vector<double> const uppers = Repeated(upper, count);
+    int const code =
+        VORQ_AddRows(Prob(), static_cast<int>(count), rows.Begins(), rows.Counts(), rows.Indices(), rows.Coefficients(),
+                     senses.data(), lowers.data(), uppers.data(), names.Pointers().data());
+    if (!Record(code, "Fail to add constraints")) return {};
   }
-  std::string const senses(count, sense);
-  std::vector<double> const uppers(count, upper);
-  int const code =
-      VORQ_AddRows(Prob(), static_cast<int>(count), rows.Begins(), rows.Counts(), rows.Indices(), rows.Coefficients(),
-                   senses.data(), lowers.data(), uppers.data(), names.Pointers().data());
-  if (!Record(code, "Fail to add constraints")) return {};
   return AppendBlock<Constraint>(names, shape);
 }
 

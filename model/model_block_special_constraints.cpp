@@ -27,11 +27,11 @@ QConstraint Model::AddQConstr(MQExpression const& cell, char sense, double rhs, 
     SetStatus(status, kInvalid, "Fail to add constraint of quadratic items of size %zu", count);
     return Invalid<QConstraint>();
   }
-  std::string normalized = NormalizeName(name);
+  std::string const normalized = NormalizeName(name);
   int const code =
       VORQ_AddQConstr(Prob(), static_cast<int>(linearCount), indices_.data(), coeffs_.data(), static_cast<int>(count),
                       rows.data(), cols.data(), values.data(), sense, rhs - linear.constant, normalized.c_str());
-  return Added<QConstraint>(code, "Fail to add a quadratic constraint", std::move(normalized));
+  return Added<QConstraint>(code, "Fail to add a quadratic constraint", normalized);
 }
 
 template <class Item, class Cell, int N, class Add>

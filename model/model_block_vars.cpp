@@ -45,9 +45,9 @@ MVar<N> Model::AddMVar(NDim<N> const& shape, char type, char const* prefix) {
 template <int N>
 MVar<N> Model::AddMVar(NDim<N> const& shape, double lb, double ub, double obj, char type, char const* prefix) {
   std::size_t const count = IsCountable(shape) ? shape.GetSize() : 0;
-  std::vector<double> const lbs(count, lb);
-  std::vector<double> const ubs(count, ub);
-  std::vector<double> const objs(count, obj);
+  std::vector<double> const lbs = Repeated(lb, count);
+  std::vector<double> const ubs = Repeated(ub, count);
+  std::vector<double> const objs = Repeated(obj, count);
   RepeatedType const types(count, type);
   return AddMVar(shape, lbs.data(), ubs.data(), objs.data(), types.OrNull(), prefix);
 }

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <utility>
+#include <vector>
 
 #include "frame/growth.hpp"
 #include "frame/shared_ptr.hpp"
@@ -21,9 +22,17 @@ bool IsCountable(NDim<N> const& shape) {
   return shape.SizeFits() && shape.GetSize() <= kMaxCount;
 }
 
+// The same number for all cells of a block.
+inline std::vector<double> Repeated(double value, std::size_t count) {
+  std::vector<double> values;
+  ReserveMore(values, count);
+  values.assign(count, value);
+  return values;
+}
+
 template <class Item, int N>
 MatrixObject<Item, N> Model::AppendBlock(BlockNames const& names, NDim<N> const& shape) {
-  ReserveMore(core_->Table<Item>().items, names.Pointers().size());
+  core_->Table<Item>().items.reserve_more(names.Pointers().size());
   SharedArrayBuilder<Item> cells(names.Pointers().size());
   for (char const* name : names.Pointers()) cells.Emplace(Append<Item>(name));
   return MatrixObject<Item, N>(NdArray<Item, N>(shape.Clone(), cells.Finish()));

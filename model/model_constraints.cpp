@@ -25,10 +25,10 @@ bool IsPlainSense(char sense) {
 
 }  // namespace
 
-Constraint Model::AddRow(Expr& expr, int sense, double bound, double upper, std::string name) {
+Constraint Model::AddRow(Expr& expr, int sense, double bound, double upper, std::string const& name) {
   int const n = Compact(expr, Count<Var>());
   int const code = VORQ_AddRow(Prob(), n, indices_.data(), expr.coeffs.data(), sense, bound, upper, name.c_str());
-  return Added<Constraint>(code, "Fail to add a constraint", std::move(name));
+  return Added<Constraint>(code, "Fail to add a constraint", name);
 }
 
 Constraint Model::AddConstr(Expr& expr, char sense, double rhs, char const* name) {

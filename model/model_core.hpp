@@ -5,8 +5,8 @@
 #include <functional>
 #include <string>
 #include <unordered_map>
-#include <vector>
 
+#include "frame/flat_list.hpp"
 #include "frame/shared_ptr.hpp"
 #include "items/prob_handle.hpp"
 #include "model/env_handle.hpp"
@@ -19,7 +19,7 @@ template <class Item>
 struct ItemTable {
   // The bound that lookups check. Equals the length of the table between operations, unless a reload broke off.
   int count = 0;
-  std::vector<Item> items;
+  FlatList<Item> items;
 };
 
 template <class... Items>

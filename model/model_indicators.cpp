@@ -35,14 +35,14 @@ bool Model::CheckIndicator(Var const& var, char sense) {
 // The terms stand in `indices_`.
 GenConstr Model::AddIndicator(Var const& var, int value, double const* coeffs, char sense, double rhs, int type,
                               char const* name) {
-  std::string normalized = NormalizeName(name);
+  std::string const normalized = NormalizeName(name);
   char const* const names = normalized.c_str();
   int const count = static_cast<int>(indices_.size());
   int const col = var.Idx();
   int const begin = 0;
   int const code =
       VORQ_AddIndicators(Prob(), 1, &type, &col, &value, &begin, &count, indices_.data(), coeffs, &sense, &rhs, &names);
-  return Added<GenConstr>(code, "Fail to add an indicator constraint", std::move(normalized));
+  return Added<GenConstr>(code, "Fail to add an indicator constraint", normalized);
 }
 
 GenConstr Model::AddGenConstrIndicator(Var const& var, int value, Expr& expr, char sense, double rhs, int type,

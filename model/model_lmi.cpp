@@ -15,7 +15,7 @@ LmiConstraint Model::AddLmiConstr(LmiExpr& expr, char const* name) {
     Refuse("Invalid LMI expression object");
     return Invalid<LmiConstraint>();
   }
-  std::string normalized = NormalizeName(name);
+  std::string const normalized = NormalizeName(name);
   expr.MergeTerms();
   std::vector<int> vars, matrices;
   for (Var const& var : expr.vars) vars.push_back(var.Idx());
@@ -28,7 +28,7 @@ LmiConstraint Model::AddLmiConstr(LmiExpr& expr, char const* name) {
   }
   int const code = VORQ_AddLMIConstr(Prob(), dim, static_cast<int>(vars.size()), vars.data(), matrices.data(), constant,
                                      normalized.c_str());
-  return Added<LmiConstraint>(code, "Fail to add an LMI constraint", std::move(normalized), dim);
+  return Added<LmiConstraint>(code, "Fail to add an LMI constraint", normalized, dim);
 }
 
 LmiExpr Model::GetLmiRow(LmiConstraint const& constr) {

@@ -2,12 +2,22 @@
 #include "model/model.hpp"
 
 namespace Vorq {
+namespace {
+
+constexpr char const* kNoValues = "Argument 'values' of SetMipStart is null";
+
+}  // namespace
 
 void Model::SetMipStart(int count, double const* values) {
-  std::vector<Var> const& vars = core_->Table<Var>().items;
+  auto const& vars = core_->Table<Var>().items;
+  if (count > 0 && !vars.empty() && values == nullptr) {
+    Refuse(kNoValues);
+    return;
+  }
   int taken = 0;
-  for (auto var = vars.begin(); var != vars.end() && taken < count; ++var) {
-    if (var->IsLive()) core_->mipStart.insert_or_assign(*var, values[taken++]);
+  for (Var const& var : vars) {
+    if (taken >= count) return;
+    if (var.IsLive()) core_->mipStart.insert_or_assign(var, values[taken++]);
   }
 }
 
@@ -16,6 +26,10 @@ void Model::SetMipStart(Var const& var, double value) {
 }
 
 void Model::SetMipStart(VarArray const& vars, double const* values) {
+  if (!vars.empty() && values == nullptr) {
+    Refuse(kNoValues);
+    return;
+  }
   // Variables that are not live are stored too: LoadMipStart passes over them.
   for (std::size_t i = 0; i < vars.size(); ++i) core_->mipStart.insert_or_assign(vars[i], values[i]);
 }

@@ -22,9 +22,9 @@ std::vector<int> IndicesOf(std::vector<PsdVar> const& vars) {
 }  // namespace
 
 PsdVar Model::AddPsdVar(int dim, char const* name) {
-  std::string normalized = NormalizeName(name);
+  std::string const normalized = NormalizeName(name);
   int const code = VORQ_AddPSDCol(Prob(), dim, normalized.c_str());
-  return Added<PsdVar>(code, "Fail to add a PSD variable", std::move(normalized), dim);
+  return Added<PsdVar>(code, "Fail to add a PSD variable", normalized, dim);
 }
 
 PsdVarArray Model::AddPsdVars(int count, int const* dims, char const* prefix) {
@@ -41,7 +41,7 @@ PsdVarArray Model::AddPsdVars(int count, int const* dims, char const* names, std
   return AddedAll<PsdVar>(VORQ_AddPSDCols(Prob(), count, dims, split.data()), "Fail to add PSD variables", split, dims);
 }
 
-PsdConstraint Model::AddPsdRow(PsdExpr& expr, int sense, double bound, double upper, std::string name) {
+PsdConstraint Model::AddPsdRow(PsdExpr& expr, int sense, double bound, double upper, std::string const& name) {
   Expr& linear = expr.linear;
   int const count = Compact(linear, Count<Var>());
   expr.MergeTerms();
@@ -51,7 +51,7 @@ PsdConstraint Model::AddPsdRow(PsdExpr& expr, int sense, double bound, double up
   int const code =
       VORQ_AddPSDConstr(Prob(), count, indices_.data(), linear.coeffs.data(), static_cast<int>(vars.size()),
                         vars.data(), matrices.data(), sense, bound, upper, name.c_str());
-  return Added<PsdConstraint>(code, "Fail to add a PSD constraint", std::move(name));
+  return Added<PsdConstraint>(code, "Fail to add a PSD constraint", name);
 }
 
 bool Model::CheckPsdTerms(PsdExpr const& expr) {

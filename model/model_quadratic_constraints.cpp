@@ -11,7 +11,7 @@ QConstraint Model::AddQConstr(QuadExpr& expr, char sense, double rhs, char const
     Refuse("Invalid quadratic expression object");
     return Invalid<QConstraint>();
   }
-  std::string normalized = NormalizeName(name);
+  std::string const normalized = NormalizeName(name);
   if (sense != 'E' && sense != 'G' && sense != 'L') Refuse("Invalid quadratic constraint sense");
   // A failure that an earlier operation left stops this one too, which is meant.
   if (status.Failed()) return Invalid<QConstraint>();
@@ -21,7 +21,7 @@ QConstraint Model::AddQConstr(QuadExpr& expr, char sense, double rhs, char const
   int const code =
       VORQ_AddQConstr(Prob(), count, indices_.data(), linear.coeffs.data(), terms.Count(), terms.rows.data(),
                       terms.cols.data(), expr.coeffs.data(), sense, rhs - linear.constant, normalized.c_str());
-  return Added<QConstraint>(code, "Fail to add a quadratic constraint", std::move(normalized));
+  return Added<QConstraint>(code, "Fail to add a quadratic constraint", normalized);
 }
 
 QConstraint Model::AddQConstr(QuadExpr const& lhs, char sense, QuadExpr const& rhs, char const* name) {

@@ -11,7 +11,7 @@ bool Model::RemoveMarked() {
   if (marked == 0) return true;
 
   std::vector<int> positions;
-  std::vector<Item> kept;
+  FlatList<Item> kept;
   positions.reserve(static_cast<std::size_t>(marked));
   kept.reserve(table.items.size() - static_cast<std::size_t>(marked));
   for (Item const& item : table.items) {

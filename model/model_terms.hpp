@@ -1,6 +1,7 @@
 // Templates of Model that turn terms into index lists and back, included by the topics that add or read lines.
 #pragma once
 
+#include <algorithm>
 #include <span>
 
 #include "model/cell_terms.hpp"
@@ -8,35 +9,35 @@
 
 namespace Vorq {
 
-inline std::vector<Var> const& ItemsOf(Expr const& expr) {
+inline std::vector<Var>& ItemsOf(Expr& expr) {
   return expr.vars;
 }
-inline std::vector<Constraint> const& ItemsOf(Column const& column) {
+inline std::vector<Constraint>& ItemsOf(Column& column) {
   return column.constrs;
 }
 
 template <class Terms>
-void Model::Compact(Terms& terms, int size, std::vector<int>& indices) {
-  auto const& items = ItemsOf(terms);
-  std::size_t const start = indices.size();
+int Model::Compact(Terms& terms, int size) {
+  auto& items = ItemsOf(terms);
+  indices_.resize(items.size());
   int top = size;
-  for (auto const& item : items) {
-    int const index = item.Idx();
-    indices.push_back(index);
-    if (index >= top) top = index + 1;
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    indices_[i] = items[i].Idx();
+    top = std::max(top, indices_[i] + 1);
   }
-  EnsureDense(top);
-  terms.ReduceDense(denseVal_, denseFlag_);
-  if (indices.size() - start == items.size()) return;  // nothing was merged, so that nothing moved
-  indices.resize(start);
-  for (auto const& item : items) indices.push_back(item.Idx());
+  EnsureMarks(top);
+  if (!AreReduced(terms.coeffs, indices_, denseFlag_.data())) {
+    EnsureDense(top);
+    ReduceTermsDense([this](std::size_t i) { return indices_[i]; }, denseVal_.data(), denseFlag_.data(), terms.coeffs,
+                     items, indices_);
+  }
+  return static_cast<int>(indices_.size());
 }
 
 template <class Terms>
-int Model::Compact(Terms& terms, int size) {
-  indices_.clear();
-  Compact(terms, size, indices_);
-  return static_cast<int>(indices_.size());
+void Model::Compact(Terms& terms, int size, std::vector<int>& indices) {
+  Compact(terms, size);
+  indices.insert(indices.end(), indices_.begin(), indices_.end());
 }
 
 template <class Terms>

@@ -28,16 +28,16 @@ char const* OrNull(std::string const& types) {
 }  // namespace
 
 Var Model::AddVar(double lb, double ub, double obj, char type, char const* name) {
-  std::string normalized = NormalizeName(name);
+  std::string const normalized = NormalizeName(name);
   int const code = VORQ_AddCol(Prob(), obj, 0, nullptr, nullptr, type, lb, ub, normalized.c_str());
-  return Added<Var>(code, "Fail to add a variable", std::move(normalized));
+  return Added<Var>(code, "Fail to add a variable", normalized);
 }
 
 Var Model::AddVar(double lb, double ub, double obj, char type, Column& column, char const* name) {
-  std::string normalized = NormalizeName(name);
+  std::string const normalized = NormalizeName(name);
   int const n = Compact(column, Count<Constraint>());
   int const code = VORQ_AddCol(Prob(), obj, n, indices_.data(), column.coeffs.data(), type, lb, ub, normalized.c_str());
-  return Added<Var>(code, "Fail to add a variable using Column data", std::move(normalized));
+  return Added<Var>(code, "Fail to add a variable using Column data", normalized);
 }
 
 VarArray Model::AddVars(int count, char type, char const* prefix) {

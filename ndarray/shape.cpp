@@ -2,6 +2,7 @@
 #include "ndarray/shape.hpp"
 
 #include <algorithm>
+#include <limits>
 #include <new>
 
 #include "ndarray/view.hpp"
@@ -265,8 +266,13 @@ const {
     return failed;
   }
   sizes[place] += other.axes_[place].size;
-  if (sizes[place] < other.axes_[place].size) throw std::bad_array_new_length();
-  return NDim(sizes);
+  NDim joined(sizes);
+  if (sizes[place] < other.axes_[place].size || !joined.SizeFits()) {
+    SetStatus(failed.GetStatus(), kInvalid, "Shapes %s and %s are too large to join", ToString(0).c_str(),
+              other.ToString(0).c_str());
+    return failed;
+  }
+  return joined;
 }
 
 template <int N>
@@ -275,6 +281,10 @@ requires(R > 0) NDim<R - 1> NDim<N>::WithoutAxis(int axis)
 const {
   NDim<N - 1> failed = Ones<N - 1>();
   if (!CheckAxis(failed.GetStatus(), axis, N)) return failed;
+  if (!SizeFits() || GetSize() > std::numeric_limits<std::int64_t>::max()) {
+    SetStatus(failed.GetStatus(), kInvalid, "Array of shape %s is too large to be summed", ToString(0).c_str());
+    return failed;
+  }
   typename NDim<N - 1>::Sizes sizes;
   for (std::size_t k = 0; k + 1 < N; ++k) sizes[k] = axes_[k < static_cast<std::size_t>(axis) ? k : k + 1].size;
   return NDim<N - 1>(sizes);

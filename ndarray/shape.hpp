@@ -124,12 +124,12 @@ class NDim {
   const;
 
   // The compact shape of this and `other` one behind the other along `axis`, which counts from the end when it is
-  // negative. All other sizes must agree. Throws std::bad_array_new_length when the two together have too many.
+  // negative. All other sizes must agree, and the cells of the two together must be countable.
   template <int R = N>
   requires(R > 0) NDim Concat(NDim const& other, int axis)
   const;
 
-  // The compact shape of the other axes.
+  // The compact shape of the other axes, for sums along that one: there must be fewer than 2^63 cells.
   template <int R = N>
   requires(R > 0) NDim<R - 1> WithoutAxis(int axis)
   const;

@@ -4,7 +4,7 @@
 //   PushBack  appends a copy of the element: an item keeps standing for the same thing of its model, a column or a
 //             builder becomes independent
 //   Size      the number of elements; removed items count
-//   Get       element i, a new handle owned by the caller; positions are not checked
+//   Get       element i, a new handle owned by the caller; one that stands for nothing where there is none
 //   ToVector  all elements in order, new handles owned by the caller
 //   Reserve   makes room for n elements in all; never shrinks
 //   Clear     removes all elements

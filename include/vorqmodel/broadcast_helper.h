@@ -6,7 +6,7 @@
 // All operations read: Result<max(L, R)>* Add(Left<L>* left, Right<R>* right), likewise Sub and Mul, for the kinds of
 // broadcast_groups.inc and all ranks L and R from 0 to 3. Shapes are aligned at their last axis; axes of size 1 are
 // stretched. The result is new, shares no cell with an operand and is owned by the caller; for shapes that do not
-// fit it has size 1 and carries the failure.
+// fit, and for an operand that is null, it has size 1 and carries the failure.
 #ifndef VORQMODEL_BROADCAST_HELPER_H
 #define VORQMODEL_BROADCAST_HELPER_H
 

@@ -1,5 +1,6 @@
 // Builders: what is needed to add one constraint, without a model. The right side is folded into the constant of the
-// expression, so that a builder says: expression sense 0.
+// expression, so that a builder says: expression sense 0. A null object changes nothing, and a position outside of a
+// list gives a variable that stands for nothing, or 0.
 #ifndef VORQMODEL_BUILDERS_H
 #define VORQMODEL_BUILDERS_H
 
@@ -66,11 +67,10 @@ class ISosBuilder {
   virtual int GetType() = 0;
   // The number of variables.
   virtual int GetSize() = 0;
-  // Variable `i`, a new handle owned by the caller. Positions are not checked.
+  // Variable `i`, a new handle owned by the caller.
   virtual IVar* GetVar(int i) = 0;
   // A copy of the list, owned by the caller.
   virtual IVarArray* GetVars() = 0;
-  // Positions are not checked.
   virtual double GetWeight(int i) = 0;
   // Writes GetSize() weights to `out` and returns their number.
   virtual int GetWeights(double* out) = 0;
@@ -87,7 +87,7 @@ class IConeBuilder {
   virtual int GetType() = 0;
   // The number of variables.
   virtual int GetSize() = 0;
-  // Variable `i`, a new handle owned by the caller. Positions are not checked.
+  // Variable `i`, a new handle owned by the caller.
   virtual IVar* GetVar(int i) = 0;
   // A copy of the list, owned by the caller.
   virtual IVarArray* GetVars() = 0;
@@ -104,7 +104,7 @@ class IExpConeBuilder {
   virtual int GetType() = 0;
   // The number of variables.
   virtual int GetSize() = 0;
-  // Variable `i`, a new handle owned by the caller. Positions are not checked.
+  // Variable `i`, a new handle owned by the caller.
   virtual IVar* GetVar(int i) = 0;
   // A copy of the list, owned by the caller.
   virtual IVarArray* GetVars() = 0;
@@ -117,7 +117,7 @@ class IGenConstrBuilder {
  public:
   virtual ~IGenConstrBuilder() = default;
 
-  // The indicating variable, a new handle owned by the caller; only after Set.
+  // The indicating variable, a new handle owned by the caller; before the first Set, one that stands for nothing.
   virtual IVar* GetBinVar() = 0;
   virtual int GetBinVal() = 0;
   // A copy of the expression, owned by the caller.

@@ -20,8 +20,8 @@ class ICallback {
 };
 
 // Acts for the model inside a callback. Made by CreateCallbackProxy and owned by the callback object. What concerns the
-// running solve may be called during Callback only. Failures are recorded here, not in the model; expressions and
-// builders that are given lose duplicate, zero and removed terms.
+// running solve may be called during Callback only. Failures are recorded here, not in the model, among them null
+// objects with code 3; expressions and builders that are given lose duplicate, zero and removed terms.
 class ICallbackProxy {
  public:
   virtual ~ICallbackProxy() = default;

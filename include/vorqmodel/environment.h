@@ -26,8 +26,8 @@ class IEnvr {
  public:
   virtual ~IEnvr() = default;
 
-  // A new, empty model, owned by the caller; it keeps the environment open. `name` must not be null. A problem that
-  // cannot be made is code 1 of the model, which is returned all the same.
+  // A new, empty model, owned by the caller; it keeps the environment open. A null name is code 3 of the model,
+  // and counts as empty; a problem that cannot be made is code 1. The model is returned all the same.
   virtual IModel* CreateModel(char const* name) = 0;
 
   // Closes the environment at once, whatever models there are. Returns the solver library's code, and leaves

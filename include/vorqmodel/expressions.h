@@ -1,4 +1,6 @@
-// Expressions: unsorted lists of terms, from which constraints and objectives are written.
+// Expressions: unsorted lists of terms, from which constraints and objectives are written. An operation that is given a
+// null object changes nothing; where it gives a number of terms, it gives that of a refusal. Outside of the terms there
+// are items and expressions that stand for nothing, and coefficients 0, which cannot be set.
 #ifndef VORQMODEL_EXPRESSIONS_H
 #define VORQMODEL_EXPRESSIONS_H
 
@@ -16,12 +18,10 @@ class IExpr {
 
   // The number of terms.
   virtual std::uint64_t GetSize() = 0;
-  // The variable of term `i`, a new handle owned by the caller. Positions are not checked.
+  // The variable of term `i`, a new handle owned by the caller.
   virtual IVar* GetVar(int i) = 0;
-  // Positions are not checked.
   virtual double GetCoeff(int i) = 0;
   virtual double GetConstant() = 0;
-  // Positions are not checked.
   virtual void SetCoeff(int i, double c) = 0;
   virtual void SetConstant(double c) = 0;
   virtual void AddConstant(double c) = 0;
@@ -55,9 +55,8 @@ class IColumn {
 
   // The number of terms.
   virtual int GetSize() = 0;
-  // The constraint of term `i`, a new handle owned by the caller. Positions are not checked.
+  // The constraint of term `i`, a new handle owned by the caller.
   virtual IConstraint* GetConstr(int i) = 0;
-  // Positions are not checked.
   virtual double GetCoeff(int i) = 0;
   // Appends a term, also with c = 0 and for a constraint that is there already.
   virtual void AddTerm(IConstraint* constr, double c) = 0;
@@ -86,10 +85,10 @@ class IQuadExpr {
 
   // The number of quadratic terms.
   virtual std::uint64_t GetSize() = 0;
-  // The variables of quadratic term `i`, new handles owned by the caller. Positions are not checked.
+  // The variables of quadratic term `i`, new handles owned by the caller.
   virtual IVar* GetVar1(int i) = 0;
   virtual IVar* GetVar2(int i) = 0;
-  // The coefficient of quadratic term `i`. Positions are not checked.
+  // The coefficient of quadratic term `i`.
   virtual double GetCoeff(int i) = 0;
   virtual double GetConstant() = 0;
   // A copy of the linear part with the constant, owned by the caller.
@@ -139,14 +138,14 @@ class IPsdExpr {
 
   // The number of PSD terms.
   virtual std::uint64_t GetSize() = 0;
-  // The variable of PSD term `i`, a new handle owned by the caller. Positions are not checked.
+  // The variable of PSD term `i`, a new handle owned by the caller.
   virtual IPsdVar* GetPsdVar(int i) = 0;
-  // A copy of the matrix expression of PSD term `i`, owned by the caller. Positions are not checked.
+  // A copy of the matrix expression of PSD term `i`, owned by the caller.
   virtual ISymMatExpr* GetCoeff(int i) = 0;
   virtual double GetConstant() = 0;
   // A copy of the linear part with the constant, owned by the caller.
   virtual IExpr* GetLinExpr() = 0;
-  // Replaces the matrix expression of PSD term `i` by one matrix. Positions are not checked.
+  // Replaces the matrix expression of PSD term `i` by one matrix.
   virtual void SetCoeff(int i, ISymMatrix* mat) = 0;
   virtual void SetConstant(double c) = 0;
   virtual void AddConstant(double c) = 0;
@@ -189,13 +188,13 @@ class ILmiExpr {
 
   // The number of terms.
   virtual std::uint64_t GetSize() = 0;
-  // The variable of term `i`, a new handle owned by the caller. Positions are not checked.
+  // The variable of term `i`, a new handle owned by the caller.
   virtual IVar* GetVar(int i) = 0;
-  // A copy of the matrix expression of term `i`, owned by the caller. Positions are not checked.
+  // A copy of the matrix expression of term `i`, owned by the caller.
   virtual ISymMatExpr* GetCoeff(int i) = 0;
   // A copy of the constant, owned by the caller.
   virtual ISymMatExpr* GetConstant() = 0;
-  // Replaces the matrix expression of term `i` by one matrix. Positions are not checked.
+  // Replaces the matrix expression of term `i` by one matrix.
   virtual void SetCoeff(int i, ISymMatrix* mat) = 0;
   // Replaces the constant by one matrix.
   virtual void SetConstant(ISymMatrix* mat) = 0;

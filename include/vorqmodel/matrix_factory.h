@@ -8,7 +8,8 @@
 // A prototype, an expression or a number is copied to each cell; an array gives one cell an element, in flat order, and
 // must have the shape's size, which is not checked. Copies of a caller's elements stop at the smaller of the two sizes,
 // `size` being the number of elements given; what is left is 0. A fill function is called once for each flat index, in
-// ascending order; with a null one the elements are 0. Each result is new and owned by the caller.
+// ascending order; with a null one the elements are 0. Each result is new and owned by the caller; for a null object it
+// has size 1 and carries the failure, as far as it can.
 #ifndef VORQMODEL_MATRIX_FACTORY_H
 #define VORQMODEL_MATRIX_FACTORY_H
 

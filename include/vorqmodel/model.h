@@ -16,8 +16,9 @@
 // number, or nothing.
 //
 // Every object that an operation returns belongs to the caller, who deletes it. Arguments are read and never kept or
-// owned, except for log sinks and callbacks, which the caller keeps alive. Interface pointers must not be null and must
-// come from this library. Expressions, columns and builders that are given lose duplicate, zero and removed terms.
+// owned, except for log sinks and callbacks, which the caller keeps alive. Interface pointers must come from this
+// library; one that is null is code 3, and nothing is changed. Expressions, columns and builders that are given lose
+// duplicate, zero and removed terms.
 //
 // Names are trimmed, and blanks within become '_'; a null name is empty. A prefix names a batch prefix_i, i being the
 // position of the item. A names buffer holds zero-terminated names behind each other in `length` bytes, which are taken

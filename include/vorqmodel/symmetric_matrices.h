@@ -23,7 +23,8 @@ class ISymMatrix {
   virtual char const* GetErrorMessage() = 0;
 };
 
-// Terms matrix times coefficient, all matrices of one dimension.
+// Terms matrix times coefficient, all matrices of one dimension. Outside of the terms there are matrices that stand for
+// nothing, and coefficients 0, which cannot be set.
 class ISymMatExpr {
  public:
   virtual ~ISymMatExpr() = default;
@@ -32,11 +33,9 @@ class ISymMatExpr {
   virtual int GetDim() = 0;
   // The number of terms.
   virtual std::uint64_t GetSize() = 0;
-  // The matrix of term `i`, a new handle owned by the caller. Positions are not checked.
+  // The matrix of term `i`, a new handle owned by the caller.
   virtual ISymMatrix* GetSymMat(int i) = 0;
-  // Positions are not checked.
   virtual double GetCoeff(int i) = 0;
-  // Positions are not checked.
   virtual void SetCoeff(int i, double c) = 0;
   // Appends a term. False, with nothing added, for a matrix without a dimension, and for one of another dimension than
   // the first, which fails with code 3, "Dimension of symmetric matrix mismatch".

@@ -48,8 +48,7 @@ void CheckBounds(std::span<double const> values, char const* what) {
   if (bad != values.end()) Refuse("Argument '", what, "' is not a number at position ", bad - values.begin());
 }
 
-std::string_view ToName(char const* name) {
-  if (name == nullptr || *name == '\0') return {};
+std::string_view CheckedName(char const* name) {
   std::string_view const text = name;
   auto const bad = std::ranges::find_if(text, IsControl);
   if (bad != text.end()) {

@@ -31,9 +31,17 @@ void CheckIndices(std::span<int const> indices, int limit, char const* kind);
 
 // Coefficients are numbers below 1e30 in size.
 void CheckCoefficients(std::span<double const> values, char const* what);
+inline void CheckCoefficient(double value, char const* what) {
+  if (!(std::abs(value) < kInfinity)) [[unlikely]]
+    CheckCoefficients({&value, 1}, what);
+}
 
 // Bounds may be infinite, but not NaN.
 void CheckBounds(std::span<double const> values, char const* what);
+inline void CheckBound(double value, char const* what) {
+  if (std::isnan(value)) [[unlikely]]
+    CheckBounds({&value, 1}, what);
+}
 
 // What lies at 1e30 and beyond is infinite.
 inline double ToBound(double value) {
@@ -41,7 +49,10 @@ inline double ToBound(double value) {
 }
 
 // Names are free of control characters; null stands for none.
-std::string_view ToName(char const* name);
+std::string_view CheckedName(char const* name);
+inline std::string_view ToName(char const* name) {
+  return name == nullptr || *name == '\0' ? std::string_view() : CheckedName(name);
+}
 void CheckNames(int count, char const* const* names);
 void SetNames(NameList& list, int first, int count, char const* const* names);
 

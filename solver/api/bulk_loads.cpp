@@ -38,7 +38,7 @@ ProblemData MakeData(LinearPart const& part) {
   if (part.sense != VORQ_MINIMIZE && part.sense != VORQ_MAXIMIZE) {
     Refuse("Unknown sense ", part.sense, " of the objective");
   }
-  CheckCoefficients({&part.objConst, 1}, "objConst");
+  CheckCoefficient(part.objConst, "objConst");
   ProblemData data;
   data.objective.sense = part.sense;
   data.objective.constant = part.objConst;

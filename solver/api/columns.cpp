@@ -54,8 +54,8 @@ void TakeBackColumns(ProblemData& data, int first) {
 }
 
 // Bounds of existing columns; `toBound` is ToLower or ToUpper.
-int SetBounds(VORQ_Prob* prob, int count, int const* indices, double const* values,
-              std::vector<double> Columns::*bounds, double (*toBound)(char, double)) {
+int SetBounds(VORQ_Prob* prob, int count, int const* indices, double const* values, FlatList<double> Columns::*bounds,
+              double (*toBound)(char, double)) {
   return Edit(prob, [&](Problem& problem) {
     auto& columns = problem.data.columns;
     Selection const items(count, indices, columns.Count(), kColumnKind.title);
@@ -104,6 +104,13 @@ void AppendColumns(ProblemData& data, ColumnBatch const& batch) {
   }
 }
 
+void CheckDistinct(std::span<int const> cols, char const* item) {
+  std::vector<int> sorted(cols.begin(), cols.end());
+  std::ranges::sort(sorted);
+  auto const twice = std::ranges::adjacent_find(sorted);
+  if (twice != sorted.end()) Refuse(item, " has column ", *twice, " twice");
+}
+
 }  // namespace vorqsolver
 
 // Models are also built column by column, so one column does not pay for the frame of a batch.
@@ -115,9 +122,9 @@ int VORQ_AddCol(VORQ_Prob* prob, double obj, int n, int const* rows, double cons
     auto const indices = List(n, rows, "rows");
     auto const values = List(n, coefs, "coefs");
     char const letter = ToType(type);
-    CheckCoefficients({&obj, 1}, "obj");
-    CheckBounds({&lb, 1}, "lb");
-    CheckBounds({&ub, 1}, "ub");
+    CheckCoefficient(obj, "obj");
+    CheckBound(lb, "lb");
+    CheckBound(ub, "ub");
     CheckIndices(indices, data.rows.Count(), "Row");
     CheckCoefficients(values, "coefs");
     auto const text = ToName(name);

@@ -20,4 +20,7 @@ struct ColumnBatch {
 // Appends all columns, or fails and leaves the data as they were.
 void AppendColumns(ProblemData& data, ColumnBatch const& batch);
 
+// Fails with "An SOS constraint has column 7 twice" and the like; `item` is what has the columns.
+void CheckDistinct(std::span<int const> cols, char const* item);
+
 }  // namespace vorqsolver

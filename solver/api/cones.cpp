@@ -1,24 +1,12 @@
 // The C functions that add and read cones and exponential cones.
 #include "solver/api/cones.hpp"
 
-#include <algorithm>
-
 #include "solver/api/append_items.hpp"
+#include "solver/api/columns.hpp"
 #include "solver/api/item_kinds.hpp"
 #include "solver/api/reading.hpp"
 
 namespace vorqsolver {
-
-namespace {
-
-void CheckDistinct(std::span<int const> cols, char const* kind) {
-  std::vector<int> sorted(cols.begin(), cols.end());
-  std::ranges::sort(sorted);
-  auto const twice = std::ranges::adjacent_find(sorted);
-  if (twice != sorted.end()) Refuse(kind, " has column ", *twice, " twice");
-}
-
-}  // namespace
 
 Cone MakeCone(int type, std::span<int const> cols, int colCount) {
   if (type != 1 && type != 2) Refuse("Unknown type ", type, " of a cone");

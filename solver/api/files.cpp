@@ -78,16 +78,16 @@ int ReadProblem(VORQ_Prob* prob, char const* path, ReadModel (*read)(TextSource 
   });
 }
 
-void WriteModelFile(Problem& problem, std::string const& path, WrittenModel const& model) {
-  WriteTextFile(path, model.text);
-  LogAll(problem, model.warnings);
+void WriteFile(Problem& problem, std::string const& path, WrittenFile const& file) {
+  WriteTextFile(path, file.text);
+  LogAll(problem, file.warnings);
   problem.log.Line(Text("Wrote '", path, "'"));
 }
 
-int WriteProblem(VORQ_Prob* prob, char const* path, WrittenModel (*write)(ProblemData const&)) {
+int WriteProblem(VORQ_Prob* prob, char const* path, WrittenFile (*write)(ProblemData const&)) {
   return Guard(prob, [&](Problem& problem) {
     std::string const target = PathOf(path);
-    WriteModelFile(problem, target, write(problem.data));
+    WriteFile(problem, target, write(problem.data));
   });
 }
 
@@ -123,8 +123,7 @@ void WriteValues(Problem& problem, std::string const& path, Values const& values
   if (values.values.size() != static_cast<std::size_t>(problem.data.columns.Count())) {
     Refuse("There are values of ", values.values.size(), " columns, the problem has ", problem.data.columns.Count());
   }
-  WriteTextFile(path, WriteSolution(problem.data, values.values, values.objective));
-  problem.log.Line(Text("Wrote '", path, "'"));
+  WriteFile(problem, path, WriteSolution(problem.data, values.values, values.objective));
 }
 
 }  // namespace
@@ -166,7 +165,7 @@ int VORQ_WriteNL(VORQ_Prob* prob, char const* path) {
 int VORQ_WriteMpsStr(VORQ_Prob* prob, char* buffer, int capacity, int* required) {
   return Guard(prob, [&](Problem& problem) {
     if (buffer == nullptr) Need(required, "required");
-    WrittenModel const model = WriteMps(problem.data);
+    WrittenFile const model = WriteMps(problem.data);
     std::size_t const size = model.text.size() + 1;
     if (required != nullptr) {
       *required = size <= INT_MAX ? static_cast<int>(size) : -1;
@@ -234,8 +233,7 @@ int VORQ_WriteBasis(VORQ_Prob* prob, char const* path) {
     auto const empty = [](Basis const& basis) { return basis.cols.empty() && basis.rows.empty(); };
     Basis const& basis = empty(problem.result.basis) ? problem.startBasis : problem.result.basis;
     if (empty(basis)) Refuse("There is no basis to write");
-    WriteTextFile(target, WriteBasisFile(problem.data, basis));
-    problem.log.Line(Text("Wrote '", path, "'"));
+    WriteFile(problem, target, WriteBasisFile(problem.data, basis));
   });
 }
 
@@ -265,7 +263,7 @@ int VORQ_WriteIIS(VORQ_Prob* prob, char const* path) {
   return Guard(prob, [&](Problem& problem) {
     std::string const target = PathOf(path);
     if (!problem.result.iis.available) Refuse("There is no IIS to write");
-    WriteModelFile(problem, target, WriteLp(IisProblem(problem.data, problem.result.iis)));
+    WriteFile(problem, target, WriteLp(IisProblem(problem.data, problem.result.iis)));
   });
 }
 int VORQ_WriteRelax(VORQ_Prob* prob, char const* path) {
@@ -276,7 +274,7 @@ int VORQ_WriteRelax(VORQ_Prob* prob, char const* path) {
     if (!relaxed.attempted) Refuse("There is no feasibility relaxation to write");
     ProblemData const relaxation = RelaxationProblem(problem.data, relaxed.penalties, relaxed.mode);
     bool const isBinary = problem.parameters.Int(IntParam::kRelaxFileType) == kBinary;
-    WriteModelFile(problem, target, isBinary ? WriteBinary(relaxation) : WriteLp(relaxation));
+    WriteFile(problem, target, isBinary ? WriteBinary(relaxation) : WriteLp(relaxation));
   });
 }
 int VORQ_WriteTuneParam(VORQ_Prob* prob, int index, char const* path) {

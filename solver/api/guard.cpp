@@ -4,6 +4,7 @@
 #include <exception>
 #include <new>
 #include <string>
+#include <system_error>
 
 namespace vorqsolver {
 
@@ -34,6 +35,10 @@ int ReportFailure(Problem* problem) noexcept {
   } catch (std::length_error const&) {
     Tell(problem, "Out of memory");
     return VORQ_MEMORY;
+  } catch (std::system_error const& error) {
+    bool const isThread = error.code() == std::errc::resource_unavailable_try_again;
+    Tell(problem, isThread ? "A thread could not be started" : error.what());
+    return isThread ? VORQ_THREAD : VORQ_INTERNAL;
   } catch (std::exception const& exception) {
     Tell(problem, exception.what());
     return VORQ_INTERNAL;

@@ -14,7 +14,7 @@ Indicator MakeIndicator(ProblemData const& data, int type, int binCol, int binVa
   auto const columnType = data.columns.type[static_cast<std::size_t>(binCol)];
   if (columnType != 'B') Refuse("Column ", binCol, " of an indicator constraint is not binary");
   if (binVal != 0 && binVal != 1) Refuse("The value ", binVal, " of an indicator constraint's column is not 0 or 1");
-  CheckCoefficients({&rhs, 1}, "rhss");
+  CheckCoefficient(rhs, "rhss");
   return {type, binCol, binVal, {}, ToComparison(sense), rhs};
 }
 

@@ -41,12 +41,12 @@ double SlackOfRow(Problem const& problem, int row) {
   return Found(problem.result.lp.slacks, problem.data.rows.lower.size(), "slack")[static_cast<std::size_t>(row)];
 }
 
-template <std::vector<double> Columns::*list>
+template <FlatList<double> Columns::*list>
 double OfColumn(Problem const& problem, int col) {
   return (problem.data.columns.*list)[static_cast<std::size_t>(col)];
 }
 
-template <std::vector<double> Rows::*list>
+template <FlatList<double> Rows::*list>
 double OfRow(Problem const& problem, int row) {
   return (problem.data.rows.*list)[static_cast<std::size_t>(row)];
 }

@@ -22,6 +22,7 @@ int FindName(VORQ_Prob* prob, ItemKind const& kind, char const* name, int* index
 // Names are no part of what is solved, so results stay.
 int SetItemNames(VORQ_Prob* prob, ItemKind const& kind, int count, int const* indices, char const* const* names) {
   return Guard(prob, [&](Problem& problem) {
+    if (problem.solving) Refuse("Names cannot be changed while the problem is being solved");
     Selection const items(count, indices, kind.Count(problem), kind.title);
     if (count > 0) Need(names, "names");
     CheckNames(count, names);

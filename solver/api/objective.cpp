@@ -31,7 +31,7 @@ int VORQ_SetObjSense(VORQ_Prob* prob, int sense) {
 
 int VORQ_SetObjConst(VORQ_Prob* prob, double constant) {
   return Edit(prob, [&](Problem& problem) {
-    CheckCoefficients({&constant, 1}, "constant");
+    CheckCoefficient(constant, "constant");
     problem.data.objective.constant = constant;
   });
 }

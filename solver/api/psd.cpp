@@ -3,11 +3,11 @@
 #include "solver/api/item_kinds.hpp"
 #include "solver/api/reading.hpp"
 #include "solver/api/symmetric_matrices.hpp"
+#include "solver/problem/largest_dimension.hpp"
 
 namespace vorqsolver {
 
 void AppendPsdColumns(ProblemData& data, std::span<int const> dims, char const* const* names) {
-  constexpr int kLargestDimension = 46340;  // so that the entries of the full matrix can still be counted
   for (auto const dim : dims) {
     if (dim < 1 || dim > kLargestDimension) Refuse("A PSD column cannot have the dimension ", dim);
   }

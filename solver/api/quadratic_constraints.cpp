@@ -43,7 +43,7 @@ int VORQ_AddQConstr(VORQ_Prob* prob, int nLin, int const* linIdx, double const* 
                     int const* qCol, double const* qCoef, int sense, double bound, char const* name) {
   return Edit(prob, [&](Problem& problem) {
     auto const cols = problem.data.columns.Count();
-    CheckCoefficients({&bound, 1}, "bound");
+    CheckCoefficient(bound, "bound");
     AppendItem(problem.data.quadConstraints, problem.data.quadConstraintNames,
                QuadConstraint{
                    LinearTerms(nLin, linIdx, linCoef, cols),

@@ -112,7 +112,7 @@ int AddRows(VORQ_Prob* prob, Table ProblemData::*table, int count, int const* ro
   });
 }
 
-int SetBounds(VORQ_Prob* prob, int count, int const* indices, double const* values, std::vector<double> Rows::*bounds) {
+int SetBounds(VORQ_Prob* prob, int count, int const* indices, double const* values, FlatList<double> Rows::*bounds) {
   return Edit(prob, [&](Problem& problem) {
     auto& rows = problem.data.rows;
     Selection const items(count, indices, rows.Count(), kRowKind.title);

@@ -1,5 +1,6 @@
 // The C functions that add and read SOS constraints.
 #include "solver/api/append_items.hpp"
+#include "solver/api/columns.hpp"
 #include "solver/api/item_kinds.hpp"
 #include "solver/api/reading.hpp"
 
@@ -16,6 +17,7 @@ int VORQ_AddSOSs(VORQ_Prob* prob, int count, int const* types, int const* begins
       if (types[place] != 1 && types[place] != 2) Refuse("Unknown type ", types[place], " of an SOS constraint");
       auto const members = batch.Of(place, cols);
       CheckIndices(members, problem.data.columns.Count(), kColumnKind.title);
+      CheckDistinct(members, "An SOS constraint");
       auto& sos = added.emplace_back(Sos{types[place], {members.begin(), members.end()}, {}});
       if (weights == nullptr) continue;
       auto const given = batch.Of(place, weights);

@@ -51,7 +51,8 @@ class BranchAndCut {
         tick_([this](ClpSimplex const*) { progress_.Tick(); }),
         relaxation_(task, mip_, pool_, tick_),
         branching_(mip_, task.parameters),
-        solutions_(task, mip_, pool_, progress_) {
+        solutions_(task, mip_, pool_, progress_),
+        hasOpenIntegers_(mip_.HasOpenIntegers()) {
     AddToPool(task.data.lazyConstraints, CutPool::Kind::kLazyConstraint);
     AddToPool(task.data.userCuts, CutPool::Kind::kUserCut);
     result_.engine = "Vorq";
@@ -76,7 +77,9 @@ class BranchAndCut {
   bool Separate();
   bool AddCuts();
   NodeEnd Split(SearchNode const& node, BranchChoice const& choice);
-  bool HasHeuristics() const { return task_.parameters.Int(IntParam::kHeurLevel) != 0 && mip_.sets.empty(); }
+  bool HasHeuristics() const {
+    return task_.parameters.Int(IntParam::kHeurLevel) != 0 && mip_.sets.empty() && !hasOpenIntegers_;
+  }
   bool IsTimeToDive();
   void Dive(SearchNode const& node);
   void SearchNeighbourhood();
@@ -103,6 +106,7 @@ class BranchAndCut {
   std::optional<SearchNode> next_;  // the child to go on with
   double current_ = kNone;          // the bound of the node at work
   double lost_ = kNone;             // the best bound of nodes that the engine could not solve
+  bool hasOpenIntegers_;
   bool isBoxed_ = false;
   std::vector<BoundChange> unboxed_;  // the bounds that the box took the place of
   bool isAtNodeLimit_ = false;
@@ -126,8 +130,10 @@ void BranchAndCut::AddToPool(SideRows const& rows, CutPool::Kind kind) {
 }
 
 SolveResult BranchAndCut::Run() {
-  if (!SolveRoot()) return Finish();
-  TakeStarts();
+  bool const goesOn = SolveRoot();
+  // A complete start counts also where a limit was met.
+  if (goesOn || task_.stop.Asked()) TakeStarts();
+  if (!goesOn) return Finish();
   tree_.Push(SearchNode());
   RunTree();
   Conclude();
@@ -137,7 +143,7 @@ SolveResult BranchAndCut::Run() {
 // The first relaxation; false where it settles the problem.
 bool BranchAndCut::SolveRoot() {
   auto outcome = relaxation_.Solve();
-  if (outcome == Outcome::kUnbounded) {
+  if (outcome == Outcome::kUnbounded && pool_.Size() > 0) {
     // Lazy constraints may bound it.
     std::vector<int> all(static_cast<std::size_t>(pool_.Size()));
     std::iota(all.begin(), all.end(), 0);
@@ -279,7 +285,8 @@ bool BranchAndCut::Separate() {
 BranchAndCut::NodeEnd BranchAndCut::Process(SearchNode& node) {
   bool const isRoot = node.depth == 0;
   int rounds = isRoot ? kRootRounds : kTreeRounds;
-  int cutPasses = isRoot && task_.parameters.Int(IntParam::kCutLevel) != 0 ? kCutPasses : 0;
+  bool const hasCuts = isRoot && task_.parameters.Int(IntParam::kCutLevel) != 0 && !hasOpenIntegers_;
+  int cutPasses = hasCuts ? kCutPasses : 0;
   bool dives = IsTimeToDive();
   double const inherited = node.bound;
   for (bool isFirst = true;; isFirst = false) {

@@ -2,7 +2,7 @@
 // the problem, and whatever a callback adds. Every integer point that it finds is shown to all rows and to the callback
 // before it counts, and the relaxation that gave it is solved again with the rows that it violates; so lazy constraints
 // hold on continuous columns too. It also serves problems with SOS, which Cbc's choice of branches cannot be trusted
-// with beside integer columns.
+// with beside integer columns, and those with integer columns that have no bounds, on which Cbc and Cgl go wrong.
 #pragma once
 
 #include <optional>

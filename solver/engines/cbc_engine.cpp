@@ -7,7 +7,6 @@
 #include <CbcModel.hpp>
 #include <CbcTree.hpp>
 #include <CglPreProcess.hpp>
-#include <CglProbing.hpp>
 #include <CoinError.hpp>
 #include <OsiClpSolverInterface.hpp>
 #include <algorithm>
@@ -21,6 +20,7 @@
 #include "solver/engines/mip_incumbents.hpp"
 #include "solver/engines/mip_model.hpp"
 #include "solver/engines/mip_progress.hpp"
+#include "solver/engines/osi_setup.hpp"
 #include "solver/problem/failure.hpp"
 #include "solver/tasks/check.hpp"
 
@@ -29,6 +29,10 @@ namespace vorqsolver {
 namespace {
 
 constexpr int kPreprocessPasses = 10;
+constexpr int kNoNewIntegers = 1000000;  // continuous columns stay so: the engine makes some integer that are not
+constexpr double kSame = 1e-5;           // relative
+constexpr double kUrgentSeconds = 0.5;   // for the way back to the problem's columns, once the search was stopped
+constexpr double kPatientSeconds = 10.0;
 constexpr double kBox = 1e7;  // bounds put on a search that the relaxation alone does not bound
 
 // Cbc's own numbers.
@@ -88,11 +92,14 @@ class CbcSolver {
     result_.isMip = true;
   }
 
-  bool HasSets() const { return !mip_.sets.empty(); }
+  // Beside integer columns, Cbc's choice of a branch on a set can fail.
+  bool IsFit() const { return mip_.sets.empty() && !mip_.HasOpenIntegers(); }
   SolveResult Run();
 
  private:
-  void Control(OsiClpSolverInterface& solver);
+  void Control(OsiClpSolverInterface& solver) {
+    vorqsolver::Control(solver, silent_, IterationWatch(task_.stop, tick_));
+  }
   void Load(OsiClpSolverInterface& solver);
   bool SolveRoot();
   bool FinishUnboundedRoot();
@@ -100,12 +107,14 @@ class CbcSolver {
   bool TakeStart(MipStart const& start, std::string& outcome);
   bool CompletePartial(MipStart const& start);
   std::unique_ptr<OsiClpSolverInterface> Preprocess();
+  bool IsConclusive() const;
+  void SearchWhole();
   bool MayPreprocess() const;
   void Search(OsiClpSolverInterface& reduced);
   void OfferStart(CbcModel& model, OsiClpSolverInterface const& reduced);
   void Conclude(CbcModel const& model);
   void CarryBack(std::vector<double> const& reducedValues);
-  void KeepFinal(std::vector<double> const& reducedValues, OsiClpSolverInterface const& reduced);
+  bool KeepFinal(std::vector<double> const& reducedValues, OsiClpSolverInterface const& reduced, double seconds);
   SolveResult Finish();
 
   double EngineValue(double objective) const { return mip_.linear.sign * (objective - task_.data.objective.constant); }
@@ -122,45 +131,50 @@ class CbcSolver {
   OsiClpSolverInterface solver_;
   std::unique_ptr<CglPreProcess> preprocess_;
   std::vector<int> originalCols_;  // of the reduced model; empty where nothing was reduced
+  double searchObjective_ = -std::numeric_limits<double>::infinity();  // of the best point that the search found
   SolveResult result_;
   bool isBoxed_ = false;
 };
 
-void CbcSolver::Control(OsiClpSolverInterface& solver) {
-  solver.passInMessageHandler(&silent_);
-  solver.setHintParam(OsiDoReducePrint, true, OsiHintTry);
-  auto* simplex = solver.getModelPtr();
-  simplex->passInMessageHandler(&silent_);
-  simplex->setLogLevel(0);
-  IterationWatch const watch(task_.stop, tick_);
-  simplex->passInEventHandler(&watch);
-}
-
 void CbcSolver::Load(OsiClpSolverInterface& solver) {
-  auto const& linear = mip_.linear;
   Control(solver);
-  solver.loadProblem(linear.Matrix(), linear.lower.data(), linear.upper.data(), linear.cost.data(),
-                     linear.rowLower.data(), linear.rowUpper.data());
-  solver.setObjSense(1.0);
-  solver.setDblParam(OsiPrimalTolerance, 0.1 * task_.parameters.Dbl(DblParam::kFeasTol));
-  solver.setDblParam(OsiDualTolerance, 0.1 * task_.parameters.Dbl(DblParam::kDualTol));
-  for (int col = 0; col < linear.ColCount(); ++col) {
-    if (mip_.isInteger[col]) solver.setInteger(col);
-  }
+  LoadRelaxation(solver, mip_.linear, mip_.isInteger, task_.parameters);
 }
 
 SolveResult CbcSolver::Run() {
   Load(solver_);
-  if (!SolveRoot()) return Finish();
-  TakeStarts();
+  bool const goesOn = SolveRoot();
+  // A complete start counts also where a limit was met.
+  if (goesOn || task_.stop.Asked()) TakeStarts();
+  if (!goesOn) return Finish();
   if (task_.stop.Asked()) {
     result_.mipStatus = task_.stop.Reason();
     return Finish();
   }
   auto reduced = Preprocess();
-  if (!reduced) return Finish();
-  Search(*reduced);
+  if (reduced) Search(*reduced);
+  if (preprocess_ && !IsConclusive()) SearchWhole();
   return Finish();
+}
+
+// Preprocessing can lose solutions: what was searched after it must have led to one that holds in the problem and is as
+// good as it seemed. Of infeasibility there is no such proof.
+bool CbcSolver::IsConclusive() const {
+  bool const isOptimal = result_.mipStatus == SolveStatus::kOptimal;
+  bool const isDoubtful = result_.mipStatus == SolveStatus::kInfeasible || result_.mipStatus == SolveStatus::kImprecise;
+  if (!isOptimal || incumbents_.IsEmpty()) return !isOptimal && !isDoubtful;
+  double const best = EngineValue(incumbents_.Best().objective);
+  double const room = std::max(kSame, task_.parameters.Dbl(DblParam::kRelGap)) * std::max(1.0, std::abs(best));
+  return best <= searchObjective_ + room;
+}
+
+void CbcSolver::SearchWhole() {
+  task_.log.Line("Presolve led to no solution of the problem: searching without it");
+  preprocess_.reset();
+  originalCols_.clear();
+  OsiClpSolverInterface whole;
+  Load(whole);
+  Search(whole);
 }
 
 // The relaxation; false where it settles the problem.
@@ -171,7 +185,8 @@ bool CbcSolver::SolveRoot() {
     result_.mipStatus = task_.stop.Reason();
     return false;
   }
-  if (solver_.isProvenDualInfeasible()) return FinishUnboundedRoot();
+  bool const isFar = solver_.isProvenOptimal() && IsFarAway(*solver_.getModelPtr());
+  if (isFar || solver_.isProvenDualInfeasible()) return FinishUnboundedRoot();
   if (solver_.isProvenPrimalInfeasible()) {
     result_.mipStatus = SolveStatus::kInfeasible;
     return false;
@@ -290,18 +305,13 @@ std::unique_ptr<OsiClpSolverInterface> CbcSolver::Preprocess() {
   preprocess_ = std::make_unique<CglPreProcess>();
   preprocess_->passInMessageHandler(&silent_);
   preprocess_->setTimeLimit(std::max(0.1, task_.stop.Remaining()), true);
-  CglProbing probing;
-  probing.setUsingObjective(1);
-  probing.setMaxPass(1);
-  probing.setMaxPassRoot(1);
+  CglProbing probing = Probing();
   probing.setMaxProbeRoot(std::min(3000, solver_.getNumCols()));
   probing.setMaxElements(100);
   probing.setMaxElementsRoot(200);
-  probing.setMaxLookRoot(50);
-  probing.setRowCuts(3);
   preprocess_->addCutGenerator(&probing);
-  auto* processed =
-      dynamic_cast<OsiClpSolverInterface*>(preprocess_->preProcessNonDefault(solver_, 0, kPreprocessPasses));
+  auto* processed = dynamic_cast<OsiClpSolverInterface*>(
+      preprocess_->preProcessNonDefault(solver_, 0, kPreprocessPasses, kNoNewIntegers));
   if (task_.stop.Asked()) {
     result_.mipStatus = task_.stop.Reason();
     return nullptr;
@@ -369,13 +379,18 @@ void CbcSolver::Search(OsiClpSolverInterface& reduced) {
   model.branchAndBound();
   tick_ = nullptr;
 
-  result_.nodes = std::max(model.getNodeCount(), 0);
+  result_.nodes += std::max(model.getNodeCount(), 0);
   result_.simplexIterations += std::max(model.getIterationCount(), 0);
   Conclude(model);
   std::vector<double> best;
+  searchObjective_ = std::numeric_limits<double>::infinity();
   if (model.bestSolution() != nullptr) {
     best.assign(model.bestSolution(), model.bestSolution() + reduced.getNumCols());
-    KeepFinal(best, reduced);
+    searchObjective_ = model.getMinimizationObjValue();
+    bool const urgent = task_.stop.Reason() != SolveStatus::kUnstarted;
+    bool const isKept = KeepFinal(best, reduced, urgent ? kUrgentSeconds : kPatientSeconds);
+    // Better late than to lose the only solution.
+    if (!isKept && urgent && incumbents_.IsEmpty()) KeepFinal(best, reduced, kPatientSeconds);
   }
   for (auto const& values : found) CarryBack(values);
   if (result_.mipStatus == SolveStatus::kOptimal && incumbents_.IsEmpty()) {
@@ -433,14 +448,12 @@ void CbcSolver::CarryBack(std::vector<double> const& reducedValues) {
 }
 
 // The best solution, by way of the preprocessing's own road back.
-void CbcSolver::KeepFinal(std::vector<double> const& reducedValues, OsiClpSolverInterface const& reduced) {
+bool CbcSolver::KeepFinal(std::vector<double> const& reducedValues, OsiClpSolverInterface const& reduced,
+                          double seconds) {
   bool const urgent = task_.stop.Reason() != SolveStatus::kUnstarted;
-  if (!preprocess_) {
-    incumbents_.Complete(reducedValues, urgent);
-    return;
-  }
+  if (!preprocess_) return incumbents_.Complete(reducedValues, urgent);
   static std::atomic<bool> const never = false;
-  StopSignal noStop(never, Clock::now(), 10.0);
+  StopSignal noStop(never, Clock::now(), seconds);
   IterationWatch::Report const silence;
   IterationWatch const watch(noStop, silence);
   OsiClpSolverInterface fixed(reduced);
@@ -457,9 +470,10 @@ void CbcSolver::KeepFinal(std::vector<double> const& reducedValues, OsiClpSolver
     preprocess_->postProcess(fixed);
     auto const* solution = solver_.getColSolution();
     std::vector<double> const values(solution, solution + task_.data.columns.Count());
-    if (incumbents_.Complete(values, urgent)) return;
+    if (incumbents_.Complete(values, urgent)) return true;
   }
   CarryBack(reducedValues);
+  return false;
 }
 
 SolveResult CbcSolver::Finish() {
@@ -515,12 +529,11 @@ bool CbcEngine::Supports(ProblemClass const& what) const {
 SolveResult CbcEngine::Solve(SolveTask const& task) const {
   try {
     CbcSolver solver(task);
-    if (!solver.HasSets()) return solver.Run();
+    if (solver.IsFit()) return solver.Run();
   } catch (CoinError const& error) {
     throw Failure(VORQ_INTERNAL, "The engine Cbc failed: " + error.message());
   }
-  // Beside integer columns, Cbc's choice of a branch on a set can fail.
-  task.log.Line("Sets beside the rows: searched by the engine Vorq");
+  task.log.Line("Sets or integer columns without bounds: searched by the engine Vorq");
   return BranchAndCutEngine().Solve(task);
 }
 

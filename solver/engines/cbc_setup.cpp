@@ -13,7 +13,6 @@
 #include <CglGomory.hpp>
 #include <CglKnapsackCover.hpp>
 #include <CglMixedIntegerRounding2.hpp>
-#include <CglProbing.hpp>
 #include <CglTwomir.hpp>
 #include <CglZeroHalf.hpp>
 #include <limits>
@@ -32,18 +31,13 @@ constexpr int kWhereUseful = -98;
 // A negative number stands for the depth -2 - number, here 10.
 constexpr int kFastDepth = -12;
 
-CglProbing Probing() {
-  CglProbing probing;
-  probing.setUsingObjective(1);
-  probing.setMaxPass(1);
-  probing.setMaxPassRoot(1);
+CglProbing ProbingInSearch() {
+  CglProbing probing = Probing();
   probing.setMaxProbe(10);
   probing.setMaxProbeRoot(50);
   probing.setMaxLook(10);
-  probing.setMaxLookRoot(50);
   probing.setMaxElements(200);
   probing.setMaxElementsRoot(300);
-  probing.setRowCuts(3);
   return probing;
 }
 
@@ -72,6 +66,18 @@ void AddHeuristics(CbcModel& model) {
 
 }  // namespace
 
+CglProbing Probing() {
+  // Coefficient cuts beside these, which is 3, go wrong: bounds follow from them that cut off solutions.
+  constexpr int kDisaggregationCuts = 1;
+  CglProbing probing;
+  probing.setUsingObjective(1);
+  probing.setMaxPass(1);
+  probing.setMaxPassRoot(1);
+  probing.setMaxLookRoot(50);
+  probing.setRowCuts(kDisaggregationCuts);
+  return probing;
+}
+
 std::vector<NamedGenerator> CutGenerators() {
   CglGomory gomory;
   gomory.setLimitAtRoot(1000);
@@ -84,7 +90,7 @@ std::vector<NamedGenerator> CutGenerators() {
   auto const add = [&generators](char const* name, auto const& generator) {
     generators.push_back({name, std::make_unique<std::decay_t<decltype(generator)>>(generator)});
   };
-  add("Probing", Probing());
+  add("Probing", ProbingInSearch());
   add("Gomory", gomory);
   add("Knapsack", CglKnapsackCover());
   add("Clique", clique);

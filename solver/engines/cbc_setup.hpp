@@ -2,6 +2,7 @@
 #pragma once
 
 #include <CglCutGenerator.hpp>
+#include <CglProbing.hpp>
 #include <memory>
 #include <vector>
 
@@ -18,6 +19,9 @@ void SetUpCbc(CbcModel& model, ParameterSet const& parameters, bool plain);
 
 // Adds the sets as things to branch on.
 void AddSets(CbcModel& model, std::vector<MipModel::Set> const& sets);
+
+// Probing as all use it; the limits of its work are up to the user.
+CglProbing Probing();
 
 // The generators of cuts that pay.
 struct NamedGenerator {

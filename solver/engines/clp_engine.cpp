@@ -13,6 +13,7 @@
 
 #include "solver/engines/certificates.hpp"
 #include "solver/engines/clp_control.hpp"
+#include "solver/engines/osi_setup.hpp"
 #include "solver/problem/failure.hpp"
 
 namespace vorqsolver {
@@ -195,6 +196,11 @@ SolveResult ClpSolver::Run() {
 }
 
 void ClpSolver::Finish() {
+  if (simplex_.status() == kOptimal && IsFarAway(simplex_)) {
+    iterations_ += simplex_.numberIterations();
+    simplex_.createStatus();
+    simplex_.primal();
+  }
   switch (simplex_.status()) {
     case kOptimal:
       result_.lpStatus = SolveStatus::kOptimal;

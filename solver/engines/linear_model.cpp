@@ -19,7 +19,7 @@ double ToEngine(double bound) {
 
 namespace {
 
-std::vector<double> AllToEngine(std::vector<double> const& bounds) {
+std::vector<double> AllToEngine(std::span<double const> bounds) {
   std::vector<double> result(bounds.size());
   std::ranges::transform(bounds, result.begin(), [](double bound) { return ToEngine(bound); });
   return result;
@@ -36,7 +36,7 @@ void Uncross(std::vector<double>& lower, std::vector<double>& upper) {
 LinearModel::LinearModel(ProblemData const& data, NoSideRows /*none*/)
     : lower(AllToEngine(data.columns.lower)),
       upper(AllToEngine(data.columns.upper)),
-      cost(data.columns.objective),
+      cost(data.columns.objective.begin(), data.columns.objective.end()),
       rowLower(AllToEngine(data.rows.lower)),
       rowUpper(AllToEngine(data.rows.upper)),
       sign(data.objective.sense < 0 ? -1.0 : 1.0),

@@ -38,11 +38,21 @@ bool MipIncumbents::Complete(std::span<double const> values, bool urgent) {
     if (rest.lower[col] > rest.upper[col]) return false;
   }
   auto solved = SolveLinearModel(rest, task);
-  if (solved.lpStatus != SolveStatus::kOptimal) return false;
+  if (solved.lpStatus != SolveStatus::kOptimal) return urgent && KeepAsIs(Rounded(values));
   auto point = solved.lp.values;
   if (!Insert(std::move(point))) return false;
   if (IsSame(Best().values, solved.lp.values)) bestLp_ = std::move(solved);
   return true;
+}
+
+// The columns of the problem, with the integer ones exactly so.
+std::vector<double> MipIncumbents::Rounded(std::span<double const> values) const {
+  auto const& types = task_.data.columns.type;
+  std::vector<double> rounded(values.begin(), values.begin() + std::ssize(types));
+  for (std::size_t col = 0; col < rounded.size(); ++col) {
+    if (types[col] != 'C' && types[col] != 'S') rounded[col] = std::round(rounded[col]);
+  }
+  return rounded;
 }
 
 bool MipIncumbents::KeepAsIs(std::span<double const> values) {

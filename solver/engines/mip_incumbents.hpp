@@ -15,7 +15,8 @@ class MipIncumbents {
   explicit MipIncumbents(SolveTask const& task) : task_(task) {}
 
   // Fixes all that is discrete as in `values`, solves the linear rest, and keeps the solution if the problem accepts
-  // it. With `urgent` the rest gets little time, whatever stopped the search. Whether that gave a solution, known or
+  // it. With `urgent` the rest gets little time, whatever stopped the search, and where
+  // that is too little the point is kept as it is. Whether that gave a solution, known or
   // not.
   bool Complete(std::span<double const> values, bool urgent);
 
@@ -33,6 +34,7 @@ class MipIncumbents {
   SolveResult const& BestLp() const { return bestLp_; }
 
  private:
+  std::vector<double> Rounded(std::span<double const> values) const;
   bool Insert(std::vector<double> values);
 
   SolveTask const& task_;

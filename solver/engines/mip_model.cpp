@@ -67,12 +67,31 @@ MipModel::MipModel(ProblemData const& data, ParameterSet const& parameters, Line
     if (isSemi && hasGap) AddSemicontinuous(col, columns.lower[col], columns.upper[col]);
   }
   for (auto const& sos : data.soss) AddSos(sos);
-  if (!data.indicators.empty()) {
-    impliedLower_.assign(linear.lower.begin(), linear.lower.begin() + columns.Count());
-    impliedUpper_.assign(linear.upper.begin(), linear.upper.begin() + columns.Count());
-    TightenByRows(data.rows, impliedLower_, impliedUpper_);
-  }
+  impliedLower_.assign(linear.lower.begin(), linear.lower.begin() + columns.Count());
+  impliedUpper_.assign(linear.upper.begin(), linear.upper.begin() + columns.Count());
+  TightenByRows(data.rows, impliedLower_, impliedUpper_);
+  TightenIntegers();
   for (auto const& indicator : data.indicators) AddIndicator(indicator);
+}
+
+// Gives the integer columns the bounds that the rows imply. Where these cross, the linear engine is to find out.
+void MipModel::TightenIntegers() {
+  for (std::size_t col = 0; col < impliedLower_.size(); ++col) {
+    if (isInteger[col] == 0) continue;
+    double const lower = std::max(linear.lower[col], std::ceil(impliedLower_[col]));
+    double const upper = std::min(linear.upper[col], std::floor(impliedUpper_[col]));
+    if (lower > upper) continue;
+    linear.lower[col] = lower;
+    linear.upper[col] = upper;
+  }
+}
+
+bool MipModel::HasOpenIntegers() const {
+  for (std::size_t col = 0; col < isInteger.size(); ++col) {
+    bool const isOpen = linear.lower[col] <= -kInfinity || linear.upper[col] >= kInfinity;
+    if (isInteger[col] != 0 && isOpen) return true;
+  }
+  return false;
 }
 
 int MipModel::AddBinary() {

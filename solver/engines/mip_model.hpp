@@ -22,11 +22,16 @@ class MipModel {
   // Starts from rows and columns that stem from `data`, such as those without lazy constraints and user cuts.
   MipModel(ProblemData const& data, ParameterSet const& parameters, LinearModel start);
 
+  // Whether an integer column has no lower or no upper bound, not even by the rows. Cbc's and Cgl's code goes wrong on
+  // such columns: cuts and preprocessing lose solutions, and assertions end the process.
+  bool HasOpenIntegers() const;
+
   LinearModel linear;
   std::vector<char> isInteger;  // one for each column of `linear`
   std::vector<Set> sets;
 
  private:
+  void TightenIntegers();
   int AddBinary();
   int Complement(int binary);
   int AsSetMember(int col);
@@ -36,7 +41,7 @@ class MipModel {
   void AddImplication(int binary, bool whenOne, std::span<LinearTerm const> terms, double rhs);
   double GreatestActivity(std::span<LinearTerm const> terms) const;
 
-  // Bounds of the problem's columns that hold at every point that satisfies the rows; for the indicators.
+  // Bounds of the problem's columns that hold at every point that satisfies the rows.
   std::vector<double> impliedLower_;
   std::vector<double> impliedUpper_;
 };

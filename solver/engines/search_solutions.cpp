@@ -19,6 +19,8 @@ constexpr double kNone = std::numeric_limits<double>::infinity();
 constexpr std::size_t kRemembered = 4;
 constexpr double kObjection = 1e-9;  // what a callback may take for a violation
 constexpr double kSame = 1e-5;
+constexpr double kUrgentSeconds = 0.5;  // for the last linear problem, once the search was stopped
+constexpr double kPatientSeconds = 10.0;
 constexpr int kRounds = 50;  // of solving a completed candidate again with the rows that cut it off
 
 }  // namespace
@@ -268,7 +270,8 @@ void SearchSolutions::TakeOffers() {
 SolveResult SearchSolutions::FinalLp() const {
   auto const& best = incumbents_.Best();
   static std::atomic<bool> const never = false;
-  StopSignal grace(never, Clock::now(), 10.0);
+  bool const urgent = task_.stop.Reason() != SolveStatus::kUnstarted;
+  StopSignal grace(never, Clock::now(), urgent ? kUrgentSeconds : kPatientSeconds);
   Basis const noBasis;
   std::vector<double> const noValues;
   Log quiet;

@@ -8,29 +8,18 @@
 
 #include "solver/engines/branch_and_cut.hpp"
 #include "solver/engines/cbc_setup.hpp"
-#include "solver/engines/clp_control.hpp"
+#include "solver/engines/osi_setup.hpp"
 
 namespace vorqsolver {
 
 std::optional<std::vector<double>> SearchModel(LinearModel const& linear, MipModel const& mip, SolveTask const& task,
                                                SubSearchLimits const& limits) {
-  if (!mip.sets.empty()) return SearchWithSets(linear, mip, task, limits.nodes);
+  if (!mip.sets.empty() || mip.HasOpenIntegers()) return SearchWithSets(linear, mip, task, limits.nodes);
   SilentHandler silent;
   IterationWatch::Report tick = [](ClpSimplex const*) {};
   OsiClpSolverInterface solver;
-  solver.passInMessageHandler(&silent);
-  solver.setHintParam(OsiDoReducePrint, true, OsiHintTry);
-  solver.getModelPtr()->passInMessageHandler(&silent);
-  solver.getModelPtr()->setLogLevel(0);
-  IterationWatch const watch(task.stop, tick);
-  solver.getModelPtr()->passInEventHandler(&watch);
-  solver.loadProblem(linear.Matrix(), linear.lower.data(), linear.upper.data(), linear.cost.data(),
-                     linear.rowLower.data(), linear.rowUpper.data());
-  solver.setObjSense(1.0);
-  solver.setDblParam(OsiPrimalTolerance, 0.1 * task.parameters.Dbl(DblParam::kFeasTol));
-  for (int col = 0; col < linear.ColCount(); ++col) {
-    if (mip.isInteger[col]) solver.setInteger(col);
-  }
+  Control(solver, silent, IterationWatch(task.stop, tick));
+  LoadRelaxation(solver, linear, mip.isInteger, task.parameters);
   solver.initialSolve();
   if (!solver.isProvenOptimal() || task.stop.Asked()) return std::nullopt;
   if (solver.getObjValue() >= limits.cutoff) return std::nullopt;

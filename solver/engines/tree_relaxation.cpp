@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "solver/engines/linear_model.hpp"
+#include "solver/engines/osi_setup.hpp"
 
 namespace vorqsolver {
 
@@ -21,65 +21,62 @@ constexpr std::size_t kFewRows = 50;
 TreeRelaxation::TreeRelaxation(SolveTask const& task, MipModel const& mip, CutPool& pool,
                                IterationWatch::Report const& tick)
     : task_(task), pool_(pool), tick_(tick), rootLower_(mip.linear.lower), rootUpper_(mip.linear.upper) {
-  auto const& linear = mip.linear;
-  Control(solver_);
-  solver_.loadProblem(linear.Matrix(), linear.lower.data(), linear.upper.data(), linear.cost.data(),
-                      linear.rowLower.data(), linear.rowUpper.data());
-  solver_.setObjSense(1.0);
-  solver_.setDblParam(OsiPrimalTolerance, 0.1 * task.parameters.Dbl(DblParam::kFeasTol));
-  solver_.setDblParam(OsiDualTolerance, 0.1 * task.parameters.Dbl(DblParam::kDualTol));
-  for (int col = 0; col < linear.ColCount(); ++col) {
-    if (mip.isInteger[col]) solver_.setInteger(col);
-  }
+  Control(solver_, silent_, IterationWatch(task_.stop, tick_));
+  // Hot starts of the whole model: those of a reduced one check memory that they did not fill, and abort by chance.
+  constexpr unsigned kKeepWhole = 65536;
+  solver_.setSpecialOptions(solver_.specialOptions() | kKeepWhole);
+  LoadRelaxation(solver_, mip.linear, mip.isInteger, task.parameters);
   baseRows_ = solver_.getNumRows();
-}
-
-void TreeRelaxation::Control(OsiClpSolverInterface& solver) {
-  solver.passInMessageHandler(&silent_);
-  solver.setHintParam(OsiDoReducePrint, true, OsiHintTry);
-  auto* simplex = solver.getModelPtr();
-  simplex->passInMessageHandler(&silent_);
-  simplex->setLogLevel(0);
-  IterationWatch const watch(task_.stop, tick_);
-  simplex->passInEventHandler(&watch);
 }
 
 std::unique_ptr<OsiClpSolverInterface> TreeRelaxation::Copy() {
   auto copy = std::make_unique<OsiClpSolverInterface>(solver_);
-  Control(*copy);
+  Control(*copy, silent_, IterationWatch(task_.stop, tick_));
   return copy;
 }
 
 TreeRelaxation::Outcome TreeRelaxation::Read() {
   iterations_ += solver_.getIterationCount();
   if (task_.stop.Reason() != SolveStatus::kUnstarted) return Outcome::kStopped;
-  if (solver_.isProvenOptimal()) return Outcome::kOptimal;
+  if (solver_.isProvenOptimal()) return IsFarAway(*solver_.getModelPtr()) ? Outcome::kUnbounded : Outcome::kOptimal;
   if (solver_.isProvenDualInfeasible()) return Outcome::kUnbounded;
   return solver_.isProvenPrimalInfeasible() ? Outcome::kInfeasible : Outcome::kFailed;
 }
 
 TreeRelaxation::Outcome TreeRelaxation::Solve() {
-  if (isSolved_) {
+  bool const isWarm = isSolved_;
+  if (isWarm) {
     solver_.resolve();
   } else {
-    solver_.initialSolve();
+    SolveAfresh();
   }
   auto outcome = Read();
-  if (isSolved_ && (outcome == Outcome::kFailed || outcome == Outcome::kUnbounded)) {
-    // From the slack basis it may go better.
-    CoinWarmStartBasis slack;
-    slack.setSize(solver_.getNumCols(), solver_.getNumRows());
-    for (int row = 0; row < solver_.getNumRows(); ++row) slack.setArtifStatus(row, CoinWarmStartBasis::basic);
-    for (int col = 0; col < solver_.getNumCols(); ++col) slack.setStructStatus(col, CoinWarmStartBasis::atLowerBound);
-    solver_.setWarmStart(&slack);
-    solver_.initialSolve();
+  auto const isLost = [&] { return outcome == Outcome::kFailed || outcome == Outcome::kUnbounded; };
+  if (isWarm && isLost()) {
+    SolveAfresh();
     outcome = Read();
   }
+  if (isLost()) isSolved_ = false;
   if (outcome != Outcome::kOptimal) return outcome;
   isSolved_ = true;
   objective_ = solver_.getObjValue();
   values_.assign(solver_.getColSolution(), solver_.getColSolution() + solver_.getNumCols());
   return outcome;
+}
+
+// From the slack basis. From where an unbounded or failed solve ended, the engine can call feasible models infeasible
+// and points optimal that are not.
+void TreeRelaxation::SolveAfresh() {
+  CoinWarmStartBasis slack;
+  slack.setSize(solver_.getNumCols(), solver_.getNumRows());
+  for (int col = 0; col < solver_.getNumCols(); ++col) {
+    bool const hasLower = Lower(col) > -kInfinity;
+    bool const hasUpper = Upper(col) < kInfinity;
+    auto const atBound = hasLower ? CoinWarmStartBasis::atLowerBound : CoinWarmStartBasis::atUpperBound;
+    slack.setStructStatus(col, hasLower || hasUpper ? atBound : CoinWarmStartBasis::isFree);
+  }
+  solver_.setWarmStart(&slack);
+  solver_.initialSolve();
 }
 
 void TreeRelaxation::BeginTrials(int iterations) {

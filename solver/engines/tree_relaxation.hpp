@@ -81,8 +81,8 @@ class TreeRelaxation {
     int idle = 0;
   };
 
+  void SolveAfresh();
   Outcome Read();
-  void Control(OsiClpSolverInterface& solver);
 
   SolveTask const& task_;
   CutPool& pool_;

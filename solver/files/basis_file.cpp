@@ -39,7 +39,7 @@ class BasisReader {
   BasisReader(TextSource const& source, ProblemData const& data)
       : lines_(source),
         data_(data),
-        names_(FitMpsNames(data, ignored_)),
+        names_(FitBasisNames(data, ignored_)),
         columns_(IndexOf(names_.columns)),
         rows_(IndexOf(names_.rows)),
         columnStated_(names_.columns.size()),
@@ -103,7 +103,7 @@ class BasisReader {
 
   LineReader lines_;
   ProblemData const& data_;
-  Warnings ignored_;
+  Warnings ignored_;  // the writer told of these names
   MpsNames names_;
   NameIndex columns_;
   NameIndex rows_;
@@ -118,9 +118,9 @@ Basis ReadBasisFile(TextSource const& source, ProblemData const& data) {
   return BasisReader(source, data).Read();
 }
 
-std::string WriteBasisFile(ProblemData const& data, Basis const& basis) {
-  Warnings ignored;
-  MpsNames const names = FitMpsNames(data, ignored);
+WrittenFile WriteBasisFile(ProblemData const& data, Basis const& basis) {
+  WrittenFile written;
+  MpsNames const names = FitBasisNames(data, written.warnings);
   if (basis.cols.size() != names.columns.size() || basis.rows.size() != names.rows.size()) {
     Refuse("The basis has ", basis.cols.size(), " columns and ", basis.rows.size(), " rows, the problem ",
            names.columns.size(), " and ", names.rows.size());
@@ -131,7 +131,8 @@ std::string WriteBasisFile(ProblemData const& data, Basis const& basis) {
   if (static_cast<std::size_t>(basicCols + basicRows) != basis.rows.size()) {
     Refuse("The basis has ", basicCols + basicRows, " basic items for ", basis.rows.size(), " rows");
   }
-  std::string text = data.name.empty() ? "NAME\n" : Text("NAME          ", data.name, "\n");
+  std::string& text = written.text;
+  text = data.name.empty() ? "NAME\n" : Text("NAME          ", data.name, "\n");
   std::size_t i = 0;  // each basic column goes with the next row that is not basic
   for (std::size_t j = 0; j < basis.cols.size(); ++j) {
     if (basic(basis.cols[j])) {
@@ -143,7 +144,8 @@ std::string WriteBasisFile(ProblemData const& data, Basis const& basis) {
       text += Text(" UL ", names.columns[j], "\n");
     }
   }
-  return text + "ENDATA\n";
+  text += "ENDATA\n";
+  return written;
 }
 
 }  // namespace vorqsolver

@@ -2,8 +2,7 @@
 // lower bound.
 #pragma once
 
-#include <string>
-
+#include "solver/files/file_model.hpp"
 #include "solver/files/text_source.hpp"
 #include "solver/problem/problem_data.hpp"
 #include "solver/problem/solution.hpp"
@@ -15,6 +14,7 @@ namespace vorqsolver {
 Basis ReadBasisFile(TextSource const& source, ProblemData const& data);
 
 // Fails with VORQ_INVALID where the basis does not fit the problem or has another number of basic items than rows.
-std::string WriteBasisFile(ProblemData const& data, Basis const& basis);
+// Warnings tell of names that were changed.
+WrittenFile WriteBasisFile(ProblemData const& data, Basis const& basis);
 
 }  // namespace vorqsolver

@@ -68,6 +68,12 @@ class ByteWriter {
     }
   }
 
+  template <typename T>
+  void Put(FlatList<T> const& list) {
+    PutCount(list.size());
+    PutAll<T>(list);
+  }
+
   void Put(NameList const& names) {
     PutCount(static_cast<std::size_t>(names.End()));
     for (int k = 0; k < names.End(); ++k) Put(names.Get(k));
@@ -126,6 +132,11 @@ class ByteReader {
     }
   }
 
+  template <typename T>
+  void Take(FlatList<T>& list) {
+    TakeAll(list, TakeCount(sizeof(T)));
+  }
+
   void Take(NameList& names) {
     auto const count = static_cast<int>(TakeCount(sizeof(std::uint64_t)));
     for (int k = 0; k < count; ++k) names.Set(k, TakeText());
@@ -175,9 +186,9 @@ class ByteReader {
     return static_cast<std::size_t>(count);
   }
 
-  template <typename T>
-  void TakeAll(std::vector<T>& list, std::size_t count) {
-    auto const bytes = TakeBytes(count * sizeof(T));
+  template <typename List>
+  void TakeAll(List& list, std::size_t count) {
+    auto const bytes = TakeBytes(count * sizeof(list[0]));
     list.resize(count);
     if (count > 0) std::memcpy(list.data(), bytes.data(), bytes.size());
   }
@@ -208,7 +219,7 @@ std::string_view CheckedRecords(std::string_view bytes) {
 
 }  // namespace
 
-WrittenModel WriteBinary(ProblemData const& data) {
+WrittenFile WriteBinary(ProblemData const& data) {
   CheckNoLostColumns(data);
   Head head{{}, kByteOrder, kVersion, 0};
   std::memcpy(head.magic, kMagic, sizeof head.magic);

@@ -7,7 +7,7 @@
 namespace vorqsolver {
 
 // Fails with VORQ_INVALID where an item lost a column that was deleted.
-WrittenModel WriteBinary(ProblemData const& data);
+WrittenFile WriteBinary(ProblemData const& data);
 
 // Fails with VORQ_FILE and the text "name: cause" for a file that is not whole, or that states what no problem can
 // hold.

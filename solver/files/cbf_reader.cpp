@@ -11,12 +11,12 @@
 #include <vector>
 
 #include "solver/files/cbf_content.hpp"
+#include "solver/problem/largest_dimension.hpp"
 
 namespace vorqsolver {
 namespace {
 
 constexpr int kNewestVersion = 4;
-constexpr int kLargestDimension = 46340;
 
 constexpr std::string_view kOtherDomains[] = {"SVECPSD", "GMEANABS", "GMEANABS*"};
 

@@ -38,7 +38,7 @@ class CbfWriter {
  public:
   explicit CbfWriter(ProblemData const& data) : data_(data) {}
 
-  WrittenModel Write() {
+  WrittenFile Write() {
     RefuseOtherKinds();
     CheckNoLostColumns(data_);
     ChooseColumnDomains();
@@ -331,7 +331,7 @@ class CbfWriter {
     WriteMatrices("DCOORD", lmiConstants_, true, false);
   }
 
-  void WriteValues(char const* title, std::vector<double> const& values) {
+  void WriteValues(char const* title, std::span<double const> values) {
     auto const count = std::ranges::count_if(values, [](double value) { return value != 0.0; });
     if (count == 0) return;
     Line(title, "\n", count);
@@ -359,7 +359,7 @@ class CbfWriter {
   };
 
   ProblemData const& data_;
-  WrittenModel written_;
+  WrittenFile written_;
   std::vector<ColumnDomain> columnDomains_;
   std::vector<Cone> scattered_;
   std::vector<CbfCone> cones_;
@@ -375,7 +375,7 @@ class CbfWriter {
 
 }  // namespace
 
-WrittenModel WriteCbf(ProblemData const& data) {
+WrittenFile WriteCbf(ProblemData const& data) {
   return CbfWriter(data).Write();
 }
 

@@ -7,6 +7,6 @@ namespace vorqsolver {
 
 // Fails with VORQ_INVALID where the problem has what a CBF file cannot hold. Bounds and ranges for which the format has
 // no domain become constraints behind the others.
-WrittenModel WriteCbf(ProblemData const& data);
+WrittenFile WriteCbf(ProblemData const& data);
 
 }  // namespace vorqsolver

@@ -1,4 +1,4 @@
-// What readers and writers of problem files give back, and what they share on terms and numbers.
+// What readers and writers of files give back, and what they share on terms and numbers.
 #pragma once
 
 #include <string>
@@ -16,7 +16,7 @@ struct ReadModel {
   Warnings warnings;
 };
 
-struct WrittenModel {
+struct WrittenFile {
   std::string text;
   Warnings warnings;
 };

@@ -24,8 +24,9 @@ bool IsLineStart(char c) {
   return c != '#' && IsWordCharacter(c);
 }
 
-bool IsWord(std::string_view name) {
-  return std::all_of(name.begin(), name.end(), IsWordCharacter);
+// A row of this name would turn the entries of a column into a marker.
+bool IsMpsName(std::string_view name) {
+  return name != "'MARKER'" && std::all_of(name.begin(), name.end(), IsWordCharacter);
 }
 
 bool IsLine(std::string_view name) {
@@ -61,7 +62,8 @@ class Fitter {
       if (!made.empty()) continue;
       auto const name = group.names->Get(k);
       TakeUnique(g, k, name.empty() ? Text(group.prefix, k + 1) : MakeFit(name));
-      if (!name.empty()) Tell(Text("Name '", name, "' of ", group.kind, " ", k + 1, " is written as '", made, "'"));
+      if (!name.empty() && group.isTold)
+        Tell(Text("Name '", name, "' of ", group.kind, " ", k + 1, " is written as '", made, "'"));
     }
   }
 
@@ -109,7 +111,7 @@ class Fitter {
 
 }  // namespace
 
-NameRules const kWordNames = {IsWord, IsWordCharacter, IsWordCharacter};
+NameRules const kMpsNames = {IsMpsName, IsWordCharacter, IsWordCharacter};
 NameRules const kLineNames = {IsLine, IsLineCharacter, IsLineStart};
 
 std::vector<std::vector<std::string>> FitNames(NameRules const& rules, std::span<NameGroup const> groups,
@@ -117,20 +119,23 @@ std::vector<std::vector<std::string>> FitNames(NameRules const& rules, std::span
   return Fitter(rules, groups, warnings).Run();
 }
 
-MpsNames FitMpsNames(ProblemData const& data, Warnings& warnings) {
+namespace {
+
+MpsNames FitAllMpsNames(ProblemData const& data, bool tellsOthers, Warnings& warnings) {
   NameList objective;
   objective.Set(0, "OBJ");
   NameGroup const columns[] = {{"column", "C", &data.columns.names, data.columns.Count()}};
   NameGroup const rows[] = {
       {"row", "R", &data.rows.names, data.rows.Count()},
-      {"quadratic constraint", "Q", &data.quadConstraintNames, static_cast<int>(data.quadConstraints.size())},
-      {"indicator", "I", &data.indicatorNames, static_cast<int>(data.indicators.size())},
-      {"lazy constraint", "L", &data.lazyConstraints.names, data.lazyConstraints.Count()},
-      {"user cut", "U", &data.userCuts.names, data.userCuts.Count()},
-      {"objective", "OBJ", &objective, 1},
+      {"quadratic constraint", "Q", &data.quadConstraintNames, static_cast<int>(data.quadConstraints.size()),
+       tellsOthers},
+      {"indicator", "I", &data.indicatorNames, static_cast<int>(data.indicators.size()), tellsOthers},
+      {"lazy constraint", "L", &data.lazyConstraints.names, data.lazyConstraints.Count(), tellsOthers},
+      {"user cut", "U", &data.userCuts.names, data.userCuts.Count(), tellsOthers},
+      {"objective", "OBJ", &objective, 1, tellsOthers},
   };
-  auto columnNames = FitNames(kWordNames, columns, warnings);
-  auto rowNames = FitNames(kWordNames, rows, warnings);
+  auto columnNames = FitNames(kMpsNames, columns, warnings);
+  auto rowNames = FitNames(kMpsNames, rows, warnings);
   return {.columns = std::move(columnNames[0]),
           .rows = std::move(rowNames[0]),
           .quadConstraints = std::move(rowNames[1]),
@@ -138,6 +143,16 @@ MpsNames FitMpsNames(ProblemData const& data, Warnings& warnings) {
           .lazyConstraints = std::move(rowNames[3]),
           .userCuts = std::move(rowNames[4]),
           .objective = std::move(rowNames[5][0])};
+}
+
+}  // namespace
+
+MpsNames FitMpsNames(ProblemData const& data, Warnings& warnings) {
+  return FitAllMpsNames(data, true, warnings);
+}
+
+MpsNames FitBasisNames(ProblemData const& data, Warnings& warnings) {
+  return FitAllMpsNames(data, false, warnings);
 }
 
 }  // namespace vorqsolver

@@ -24,6 +24,7 @@ struct NameGroup {
   char const* prefix;
   NameList const* names;
   int count;
+  bool isTold = true;  // whether changes are told
 };
 
 // The names of each group, unique over all of them: a name that several items bear stays with the first. Changes are
@@ -31,13 +32,13 @@ struct NameGroup {
 std::vector<std::vector<std::string>> FitNames(NameRules const& rules, std::span<NameGroup const> groups,
                                                Warnings& warnings);
 
-// Names in files of words: no blanks, no control characters.
-extern NameRules const kWordNames;
+// Names in MPS files: no blanks, no control characters, not the word that marks integer columns.
+extern NameRules const kMpsNames;
 
 // Names at the head of a line: blanks inside are fit, but not '#' or a blank in front.
 extern NameRules const kLineNames;
 
-// The columns and rows as they stand in an MPS file, which basis files name too.
+// The names of an MPS file. A basis file has the same ones, but those of columns and rows only: it tells of no others.
 struct MpsNames {
   std::vector<std::string> columns;
   std::vector<std::string> rows;
@@ -48,5 +49,6 @@ struct MpsNames {
   std::string objective;
 };
 MpsNames FitMpsNames(ProblemData const& data, Warnings& warnings);
+MpsNames FitBasisNames(ProblemData const& data, Warnings& warnings);
 
 }  // namespace vorqsolver

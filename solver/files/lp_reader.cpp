@@ -33,8 +33,8 @@ struct LpRows {
   std::vector<std::size_t> begins = {0};
   std::vector<int> cols;
   std::vector<double> values;
-  std::vector<double> lowers;
-  std::vector<double> uppers;
+  FlatList<double> lowers;
+  FlatList<double> uppers;
   std::vector<std::string_view> names;
 };
 

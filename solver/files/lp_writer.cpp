@@ -38,7 +38,7 @@ class LpWriter {
  public:
   explicit LpWriter(ProblemData const& data) : data_(data) {}
 
-  WrittenModel Write() {
+  WrittenFile Write() {
     RefuseConicKinds(data_, "LP");
     CheckNoLostColumns(data_);
     FitAllNames();
@@ -302,7 +302,7 @@ class LpWriter {
   }
 
   ProblemData const& data_;
-  WrittenModel written_;
+  WrittenFile written_;
   std::size_t lineStart_ = 0;
   std::vector<std::string> columnNames_;
   std::vector<std::vector<std::string>> rowNames_;
@@ -310,7 +310,7 @@ class LpWriter {
 
 }  // namespace
 
-WrittenModel WriteLp(ProblemData const& data) {
+WrittenFile WriteLp(ProblemData const& data) {
   return LpWriter(data).Write();
 }
 

@@ -6,6 +6,6 @@
 namespace vorqsolver {
 
 // Fails with VORQ_INVALID where the problem has what an LP file cannot hold.
-WrittenModel WriteLp(ProblemData const& data);
+WrittenFile WriteLp(ProblemData const& data);
 
 }  // namespace vorqsolver

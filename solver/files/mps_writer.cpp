@@ -24,11 +24,14 @@ struct RowForm {
 };
 
 // The width of a range, stated from the end that lies nearer to zero, is rounded; a neighbour of it may hit the other
-// end where it does not. Only where both ends have about the same size and differ in sign may none do so.
-RowForm RangeForm(double lower, double upper) {
+// end where it does not. Only where both ends have about the same size and differ in sign may none do so. A reader
+// takes a width of 1e30 for an infinite one.
+RowForm RangeForm(double lower, double upper, std::string const& name) {
   bool const fromLower = std::abs(lower) <= std::abs(upper);
   double const width = upper - lower;
+  if (width >= kInfinity) Refuse("An MPS file cannot hold row '", name, "', whose range is 1e30 wide or more");
   for (double const range : {width, std::nextafter(width, 0.0), std::nextafter(width, 2.0 * width)}) {
+    if (range >= kInfinity) continue;
     if (fromLower && lower + range == upper) return {'G', lower, range};
     if (!fromLower && upper - range == lower) return {'L', upper, range};
   }
@@ -43,7 +46,7 @@ RowForm FormOf(double lower, double upper, std::string const& name) {
   if (upper >= kInfinity) return {'G', lower};
   if (lower == upper) return {'E', lower};
   if (lower > upper) Refuse("An MPS file cannot hold row '", name, "', whose bounds cross");
-  return RangeForm(lower, upper);
+  return RangeForm(lower, upper, name);
 }
 
 struct WriterRow {
@@ -61,7 +64,7 @@ class MpsWriter {
  public:
   explicit MpsWriter(ProblemData const& data) : data_(data), names_(FitMpsNames(data, written_.warnings)) {}
 
-  WrittenModel Write() {
+  WrittenFile Write() {
     RefuseConicKinds(data_, "MPS");
     CheckNoLostColumns(data_);
     CollectRows();
@@ -316,7 +319,7 @@ class MpsWriter {
   std::string const& ColumnName(int col) const { return names_.columns[static_cast<std::size_t>(col)]; }
 
   ProblemData const& data_;
-  WrittenModel written_;
+  WrittenFile written_;
   MpsNames names_;
   std::vector<WriterRow> rows_;
   std::vector<WriterEntry> entries_;  // of all but the linear rows, by columns
@@ -326,7 +329,7 @@ class MpsWriter {
 
 }  // namespace
 
-WrittenModel WriteMps(ProblemData const& data) {
+WrittenFile WriteMps(ProblemData const& data) {
   return MpsWriter(data).Write();
 }
 

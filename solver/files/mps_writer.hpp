@@ -6,6 +6,6 @@
 namespace vorqsolver {
 
 // Fails with VORQ_INVALID where the problem has what an MPS file cannot hold.
-WrittenModel WriteMps(ProblemData const& data);
+WrittenFile WriteMps(ProblemData const& data);
 
 }  // namespace vorqsolver

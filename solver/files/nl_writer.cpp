@@ -49,7 +49,7 @@ class NlWriter {
  public:
   explicit NlWriter(ProblemData const& data) : data_(data) {}
 
-  WrittenModel Write() {
+  WrittenFile Write() {
     RefuseOtherKinds();
     CollectConstraints();
     OrderVariables();
@@ -277,7 +277,7 @@ class NlWriter {
   }
 
   ProblemData const& data_;
-  WrittenModel written_;
+  WrittenFile written_;
   std::vector<Constraint> constraints_;
   std::size_t nonlinearCount_ = 0;
   std::vector<LinearTerm> objective_;
@@ -289,7 +289,7 @@ class NlWriter {
 
 }  // namespace
 
-WrittenModel WriteNl(ProblemData const& data) {
+WrittenFile WriteNl(ProblemData const& data) {
   return NlWriter(data).Write();
 }
 

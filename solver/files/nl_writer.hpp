@@ -7,6 +7,6 @@ namespace vorqsolver {
 
 // Fails with VORQ_INVALID where the problem has more than linear and quadratic parts over continuous, binary and
 // integer columns.
-WrittenModel WriteNl(ProblemData const& data);
+WrittenFile WriteNl(ProblemData const& data);
 
 }  // namespace vorqsolver

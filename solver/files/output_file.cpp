@@ -17,8 +17,10 @@
 namespace vorqsolver {
 namespace {
 
+// What the system or the compressing said of it; a failure may leave no error number.
 [[noreturn]] void RefuseFile(std::string const& path) {
-  throw Failure(VORQ_FILE, Text(path, ": ", std::strerror(errno)));
+  int const number = errno;
+  throw Failure(VORQ_FILE, Text(path, ": ", number != 0 ? std::strerror(number) : "cannot write the file"));
 }
 
 class Descriptor {
@@ -47,6 +49,7 @@ void WritePlain(int descriptor, std::string_view text, std::string const& path) 
 }
 
 void WritePacked(int descriptor, std::string_view text, std::string const& path) {
+  errno = 0;
   int const copy = ::dup(descriptor);
   gzFile const file = gzdopen(copy, "wb");
   if (file == nullptr) {

@@ -9,11 +9,10 @@
 #include <vector>
 
 #include "solver/files/matrix_entries.hpp"
+#include "solver/problem/largest_dimension.hpp"
 
 namespace vorqsolver {
 namespace {
-
-constexpr int kLargestDimension = 46340;
 
 struct Block {
   int size;

@@ -12,16 +12,16 @@
 namespace vorqsolver {
 namespace {
 
-std::vector<std::string> ColumnNames(ProblemData const& data) {
-  Warnings ignored;
+std::vector<std::string> ColumnNames(ProblemData const& data, Warnings& warnings) {
   NameGroup const columns[] = {{"column", "C", &data.columns.names, data.columns.Count()}};
-  return std::move(FitNames(kLineNames, columns, ignored)[0]);
+  return std::move(FitNames(kLineNames, columns, warnings)[0]);
 }
 
 }  // namespace
 
 ReadValues ReadSolution(TextSource const& source, ProblemData const& data) {
-  std::vector<std::string> const names = ColumnNames(data);
+  Warnings ignored;  // the writer told of these names
+  std::vector<std::string> const names = ColumnNames(data, ignored);
   std::unordered_map<std::string_view, std::size_t> index;
   for (std::size_t j = 0; j < names.size(); ++j) index.emplace(names[j], j);
 
@@ -43,14 +43,14 @@ ReadValues ReadSolution(TextSource const& source, ProblemData const& data) {
   return read;
 }
 
-std::string WriteSolution(ProblemData const& data, std::span<double const> values, std::optional<double> objective) {
-  std::string text;
-  if (objective) text += Text("# Objective value = ", NumberText(*objective), "\n");
-  std::vector<std::string> const names = ColumnNames(data);
+WrittenFile WriteSolution(ProblemData const& data, std::span<double const> values, std::optional<double> objective) {
+  WrittenFile written;
+  if (objective) written.text += Text("# Objective value = ", NumberText(*objective), "\n");
+  std::vector<std::string> const names = ColumnNames(data, written.warnings);
   for (std::size_t j = 0; j < names.size(); ++j) {
-    if (values[j] != VORQ_UNDEFINED) text += Text(names[j], " ", NumberText(values[j]), "\n");
+    if (values[j] != VORQ_UNDEFINED) written.text += Text(names[j], " ", NumberText(values[j]), "\n");
   }
-  return text;
+  return written;
 }
 
 }  // namespace vorqsolver

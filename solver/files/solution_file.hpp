@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "solver/files/file_model.hpp"
 #include "solver/files/text_source.hpp"
 #include "solver/problem/problem_data.hpp"
 
@@ -20,7 +21,8 @@ struct ReadValues {
 };
 ReadValues ReadSolution(TextSource const& source, ProblemData const& data);
 
-// Open values are left out; the objective value, where there is one, stands in a comment in front.
-std::string WriteSolution(ProblemData const& data, std::span<double const> values, std::optional<double> objective);
+// Open values are left out; the objective value, where there is one, stands in a comment in front. Warnings tell of
+// names that were changed.
+WrittenFile WriteSolution(ProblemData const& data, std::span<double const> values, std::optional<double> objective);
 
 }  // namespace vorqsolver

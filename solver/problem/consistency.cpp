@@ -7,11 +7,10 @@
 #include <string_view>
 
 #include "solver/problem/failure.hpp"
+#include "solver/problem/largest_dimension.hpp"
 
 namespace vorqsolver {
 namespace {
-
-constexpr int kLargestPsdDimension = 46340;
 
 bool IsCoefficient(double value) {
   return std::abs(value) < kInfinity;  // false for NaN
@@ -182,7 +181,7 @@ class Checker {
 
   static void CheckSos(Sos const& sos, Item const& item) {
     item.Type(sos.type, 1, 2);
-    for (int const col : sos.cols) item.Column(col);
+    item.DistinctColumns(sos.cols);
     if (!sos.weights.empty() && sos.weights.size() != sos.cols.size()) item.Fail("not one weight for each column");
     for (double const weight : sos.weights) item.Coefficient(weight);
   }
@@ -200,7 +199,7 @@ class Checker {
 
   void CheckSemidefinite() const {
     ForEach(data_.psdDims, "PSD column", [](int dim, Item const& item) {
-      if (dim < 1 || dim > kLargestPsdDimension) item.Fail("it cannot have the dimension ", dim);
+      if (dim < 1 || dim > kLargestDimension) item.Fail("it cannot have the dimension ", dim);
     });
     ForEach(data_.symMatrices, "symmetric matrix", [](SymMatrix const& matrix, Item const& item) {
       if (matrix.dim < 1) item.Fail("it cannot have the dimension ", matrix.dim);

@@ -32,12 +32,9 @@ int NameList::End() const {
   return static_cast<int>(end);
 }
 
-void NameList::Set(int position, std::string_view name) {
+void NameList::Store(int position, std::string_view name) {
   auto const place = static_cast<std::size_t>(position);
-  if (place >= names_.size()) {
-    if (name.empty()) return;
-    names_.resize(place + 1);
-  }
+  if (place >= names_.size()) names_.resize(place + 1);
   if (names_[place] == name) return;
   if (indexed_ && names_[place].empty()) {
     auto const [entry, added] = index_.try_emplace(std::string(name), position);

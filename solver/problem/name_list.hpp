@@ -24,7 +24,9 @@ class NameList {
   // One behind the last position that bears a name.
   int End() const;
 
-  void Set(int position, std::string_view name);
+  void Set(int position, std::string_view name) {
+    if (!name.empty() || static_cast<std::size_t>(position) < names_.size()) Store(position, name);
+  }
   void Clear();
 
   // Forgets the names at `count` and behind; takes no memory.
@@ -34,6 +36,7 @@ class NameList {
   void Delete(std::span<int const> deleted);
 
  private:
+  void Store(int position, std::string_view name);
   void DropIndex();
 
   std::vector<std::string> names_;

@@ -23,10 +23,6 @@ bool IsSolution(ProblemData const& data, std::vector<double> const& values, Solv
   return std::ssize(values) == data.columns.Count() && (!values.empty() || status == SolveStatus::kOptimal);
 }
 
-bool IsEmpty(Basis const& basis) {
-  return basis.cols.empty() && basis.rows.empty();
-}
-
 }  // namespace
 
 bool Problem::HasLpSolution() const {
@@ -38,21 +34,21 @@ bool Problem::HasMipSolution() const {
 }
 
 Basis const& Problem::CurrentBasis() const {
-  return IsEmpty(startBasis) ? result.basis : startBasis;
+  return startBasis.IsEmpty() ? result.basis : startBasis;
 }
 
 bool Problem::HasBasis() const {
   Basis const& basis = CurrentBasis();
-  return !IsEmpty(basis) && IsSized(basis, data);
+  return !basis.IsEmpty() && IsSized(basis, data);
 }
 
-void Problem::DataChanged() {
-  bool const hadStart = !IsEmpty(startBasis);
+void Problem::UpdateStarts() {
+  bool const hadStart = !startBasis.IsEmpty();
   if (!result.IsEmpty()) {
     if (!hadStart && !result.isMip) startBasis = std::move(result.basis);
     result = SolveResult();
   }
-  if (!IsEmpty(startBasis)) {
+  if (!startBasis.IsEmpty()) {
     while (startBasis.cols.size() < data.columns.type.size()) {
       auto const col = startBasis.cols.size();
       startBasis.cols.push_back(NonbasicStatus(data.columns.lower[col], data.columns.upper[col]));

@@ -53,7 +53,10 @@ class Problem {
 
   // To be called after each change of the data: results no longer hold, and the starts follow new columns and rows.
   // The basis of the last linear solve stays as the start of the next one where the caller gave none.
-  void DataChanged();
+  void DataChanged() {
+    if (!result.IsEmpty() || !startBasis.IsEmpty() || !starts.empty()) [[unlikely]]
+      UpdateStarts();
+  }
 
   // To be called after a deletion instead: a start basis may have lost its basic columns, so it goes; the MIP starts
   // lose the entries of the deleted columns.
@@ -62,6 +65,9 @@ class Problem {
 
   // Forgets the results, and with `all` the starts too.
   void ResetResults(bool all);
+
+ private:
+  void UpdateStarts();
 };
 
 }  // namespace vorqsolver

@@ -5,18 +5,21 @@
 #include <string>
 #include <vector>
 
+#include "frame/flat_list.hpp"
 #include "solver/problem/name_list.hpp"
 #include "solver/problem/sparse_matrix.hpp"
 
 namespace vorqsolver {
 
+using Vorq::FlatList;
+
 inline constexpr double kInfinity = 1e30;
 
 struct Columns {
-  std::vector<double> lower;
-  std::vector<double> upper;
-  std::vector<double> objective;
-  std::vector<char> type;  // 'C' continuous, 'B' binary, 'I' integer, 'S' semicontinuous, 'N' semi-integer
+  FlatList<double> lower;
+  FlatList<double> upper;
+  FlatList<double> objective;
+  FlatList<char> type;  // 'C' continuous, 'B' binary, 'I' integer, 'S' semicontinuous, 'N' semi-integer
   NameList names;
 
   int Count() const { return static_cast<int>(type.size()); }
@@ -25,8 +28,8 @@ struct Columns {
 // Linear rows: lower <= row <= upper.
 struct Rows {
   SparseMatrix matrix;
-  std::vector<double> lower;
-  std::vector<double> upper;
+  FlatList<double> lower;
+  FlatList<double> upper;
   NameList names;
 
   int Count() const { return static_cast<int>(lower.size()); }
@@ -124,8 +127,8 @@ struct AffineCone {
 // Rows that hold besides those of the problem: lazy constraints and user cuts.
 struct SideRows {
   SparseMatrix matrix;
-  std::vector<double> lower;
-  std::vector<double> upper;
+  FlatList<double> lower;
+  FlatList<double> upper;
   NameList names;
 
   int Count() const { return static_cast<int>(lower.size()); }

@@ -9,8 +9,8 @@
 namespace vorqsolver {
 
 // Positions behind the end of `items` are taken as deleted from an unstored tail.
-template <typename T>
-void KeepRemaining(std::vector<T>& items, std::span<int const> deleted) {
+template <typename List>
+void KeepRemaining(List& items, std::span<int const> deleted) {
   if (deleted.empty() || static_cast<std::size_t>(deleted.front()) >= items.size()) return;
   auto kept = static_cast<std::size_t>(deleted.front());
   auto next = deleted.begin();

@@ -35,6 +35,8 @@ struct LpSolution {
 struct Basis {
   std::vector<int> cols;
   std::vector<int> rows;
+
+  bool IsEmpty() const { return cols.empty() && rows.empty(); }
 };
 
 // Matrices lie behind each other, each in full and row by row.
@@ -145,8 +147,8 @@ struct SolveResult {
   bool IsEmpty() const {
     return lpStatus == SolveStatus::kUnstarted && mipStatus == SolveStatus::kUnstarted && !isMip && !iis.available &&
            !relaxed.attempted && lp.values.empty() && lp.slacks.empty() && lp.duals.empty() &&
-           lp.reducedCosts.empty() && mipValues.empty() && pool.empty() && basis.cols.empty() && basis.rows.empty() &&
-           engine.empty() && message.empty();
+           lp.reducedCosts.empty() && mipValues.empty() && pool.empty() && basis.IsEmpty() && engine.empty() &&
+           message.empty();
   }
 };
 

@@ -84,8 +84,8 @@ void SparseMatrix::AppendDistinct(std::span<int const> cols, std::span<double co
   }
   ReserveMore(indices_, cols.size());
   ReserveMore(values_, cols.size());
-  indices_.insert(indices_.end(), cols.begin(), cols.end());
-  values_.insert(values_.end(), values.begin(), values.end());
+  indices_.append(cols.begin(), cols.end());
+  values_.append(values.begin(), values.end());
   begins_.push_back(indices_.size());
   if (IsLoose()) {
     lengths_.push_back(static_cast<int>(cols.size()));
@@ -95,12 +95,10 @@ void SparseMatrix::AppendDistinct(std::span<int const> cols, std::span<double co
   ForgetColumnForm();
 }
 
-void SparseMatrix::AppendEmptyCols(int count) {
-  if (!colBegins_.empty()) {
-    auto const end = colBegins_.back();
-    colBegins_.insert(colBegins_.end(), static_cast<std::size_t>(count), end);
-  }
-  colCount_ += count;
+void SparseMatrix::ExtendColumnForm(int count) {
+  auto const end = colBegins_.back();
+  ReserveMore(colBegins_, static_cast<std::size_t>(count));
+  for (int col = 0; col < count; ++col) colBegins_.push_back(end);
 }
 
 void SparseMatrix::AppendCol(std::span<int const> rows, std::span<double const> values) {
@@ -233,12 +231,12 @@ void SparseMatrix::MergePending() const {
 
 void SparseMatrix::Rebuild() const {
   auto const rowCount = begins_.size() - 1;
-  std::vector<std::size_t> begins(rowCount + 1);
+  FlatList<std::size_t> begins(rowCount + 1);
   for (auto const& entry : pending_) ++begins[static_cast<std::size_t>(entry.row) + 1];
   for (std::size_t row = 0; row < rowCount; ++row) begins[row + 1] += begins[row] + Length(static_cast<int>(row));
 
-  std::vector<int> indices(begins.back());
-  std::vector<double> values(begins.back());
+  FlatList<int> indices(begins.back());
+  FlatList<double> values(begins.back());
   std::vector<std::size_t> ends(rowCount);
   for (std::size_t row = 0; row < rowCount; ++row) {
     auto const length = Length(static_cast<int>(row));
@@ -258,7 +256,7 @@ void SparseMatrix::Rebuild() const {
   values_ = std::move(values);
   lengths_ = {};
   capacities_ = {};
-  pending_ = {};
+  pending_ = FlatList<Entry>();
 }
 
 void SparseMatrix::Loosen() const {
@@ -307,7 +305,7 @@ void SparseMatrix::Erase(int row, std::size_t place) {
 void SparseMatrix::MakeColumnForm() const {
   if (!colBegins_.empty()) return;
   Pack();
-  std::vector<std::size_t> begins(static_cast<std::size_t>(colCount_) + 1);
+  FlatList<std::size_t> begins(static_cast<std::size_t>(colCount_) + 1);
   for (auto const col : indices_) ++begins[static_cast<std::size_t>(col) + 1];
   std::partial_sum(begins.begin(), begins.end(), begins.begin());
   colIndices_.resize(indices_.size());

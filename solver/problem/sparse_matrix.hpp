@@ -13,7 +13,11 @@
 #include <span>
 #include <vector>
 
+#include "frame/flat_list.hpp"
+
 namespace vorqsolver {
+
+using Vorq::FlatList;
 
 // Appending rows or columns costs about a memory copy. An entry that is stated twice is summed; explicit zeros stay.
 class SparseMatrix {
@@ -43,7 +47,10 @@ class SparseMatrix {
   void Reserve(std::size_t rows, std::size_t elements);
 
   void AppendRow(std::span<int const> cols, std::span<double const> values);
-  void AppendEmptyCols(int count);
+  void AppendEmptyCols(int count) {
+    if (!colBegins_.empty()) ExtendColumnForm(count);
+    colCount_ += count;
+  }
   void AppendCol(std::span<int const> rows, std::span<double const> values);
 
   // Take back the last rows or columns appended, down to `count`; nothing else may have been done in between. They take
@@ -89,6 +96,7 @@ class SparseMatrix {
   void Insert(Entry const& entry) const;
   void Erase(int row, std::size_t place);
   void MakeColumnForm() const;
+  void ExtendColumnForm(int count);
   void ForgetColumnForm() { colBegins_.clear(); }
   void PatchColumnForm(int row, int col, double value);
   bool HasDuplicates(std::span<int const> indices, int limit);
@@ -98,20 +106,20 @@ class SparseMatrix {
   std::size_t elementCount_ = 0;
 
   // The last begin is the size of the arrays. While packed, each row ends where the next one begins.
-  mutable std::vector<std::size_t> begins_ = {0};
-  mutable std::vector<int> indices_;
-  mutable std::vector<double> values_;
+  mutable FlatList<std::size_t> begins_ = {0};
+  mutable FlatList<int> indices_;
+  mutable FlatList<double> values_;
 
   // Of each row while loose, empty while packed.
   mutable std::vector<int> lengths_;
   mutable std::vector<int> capacities_;
 
-  mutable std::vector<Entry> pending_;
+  mutable FlatList<Entry> pending_;
 
   // The column form; no begins while there is none.
-  mutable std::vector<std::size_t> colBegins_;
-  mutable std::vector<int> colIndices_;
-  mutable std::vector<double> colValues_;
+  mutable FlatList<std::size_t> colBegins_;
+  mutable FlatList<int> colIndices_;
+  mutable FlatList<double> colValues_;
 
   std::vector<std::uint64_t> seen_;  // one bit for each index, all clear between calls
 };

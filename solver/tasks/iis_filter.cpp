@@ -20,6 +20,7 @@ constexpr double kLeastTrialSeconds = 1.0;
 constexpr double kTrialSecondsFactor = 20.0;
 
 constexpr std::size_t kMostPoints = 500;
+constexpr std::size_t kMostPointValues = 20'000'000;  // of all points together
 constexpr double kClearly = 100.0;
 constexpr double kPointTolerance = 0.1;    // of FeasTol, as the engines work with
 constexpr double kMostRotationWork = 2e8;  // elements looked at for one point
@@ -58,6 +59,8 @@ DeletionFilter::DeletionFilter(ProblemData const& data, Problem& problem, StopSi
   parameters_.Set(IntParam::kLpMethod, 1);
   parameters_.Set(IntParam::kNodeLimit, -1);
   parameters_.Set(DblParam::kSolTimeLimit, 1e20);
+  mostPoints_ =
+      std::clamp<std::size_t>(kMostPointValues / std::max<std::size_t>(1, data.columns.type.size()), 1, kMostPoints);
   mayRotate_ = IsAllInteger(data) && Classify(data).IsLinear() && data.lazyConstraints.Count() == 0;
 }
 
@@ -102,7 +105,7 @@ DeletionFilter::Verdict DeletionFilter::JudgeDiscrete(Members const& members, st
 void DeletionFilter::KeepPoint(MemberProblem const& stated, std::vector<double> const& values) {
   std::vector<double> point(data_.columns.type.size(), 0.0);
   for (std::size_t k = 0; k < values.size(); ++k) point[static_cast<std::size_t>(stated.cols[k])] = values[k];
-  if (points_.size() == kMostPoints) points_.erase(points_.begin());
+  if (points_.size() == mostPoints_) points_.erase(points_.begin());
   points_.push_back(std::move(point));
 }
 
@@ -139,7 +142,7 @@ void DeletionFilter::Rotate(Members const& members, Member only) {
         if (std::ranges::find(known, other) != known.end()) continue;
         known.push_back(other);
         open.push_back(point);
-        if (points_.size() < kMostPoints) points_.push_back(point);
+        if (points_.size() < mostPoints_) points_.push_back(point);
       }
       point[col] = value;
     }

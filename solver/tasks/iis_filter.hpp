@@ -7,6 +7,7 @@
 #pragma once
 
 #include <atomic>
+#include <cstddef>
 #include <optional>
 #include <vector>
 
@@ -53,6 +54,7 @@ class DeletionFilter {
   int trials_ = 0;
   double longestProof_ = 0.0;  // seconds of a search that proved infeasibility
   double lastLine_ = 0.0;
+  std::size_t mostPoints_ = 0;
   std::vector<std::vector<double>> points_;
 };
 

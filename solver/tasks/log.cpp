@@ -27,8 +27,8 @@ void Log::SetFile(char const* path) {
 
 bool Log::Enabled() const {
   std::lock_guard lock(mutex_);
-  if (parameters_ != nullptr && parameters_->GetInt("Logging") == 0) return false;
-  return sink_ != nullptr || file_ || (parameters_ != nullptr && parameters_->GetInt("LogToConsole") != 0);
+  if (parameters_ != nullptr && parameters_->Int(IntParam::kLogging) == 0) return false;
+  return sink_ != nullptr || file_ || (parameters_ != nullptr && parameters_->Int(IntParam::kLogToConsole) != 0);
 }
 
 std::chrono::steady_clock::time_point Log::LastLine() const {
@@ -40,7 +40,7 @@ void Log::Line(std::string_view text) {
   std::lock_guard lock(mutex_);
   if (!Enabled()) return;
   lastLine_ = std::chrono::steady_clock::now();
-  bool const console = parameters_ != nullptr && parameters_->GetInt("LogToConsole") != 0;
+  bool const console = parameters_ != nullptr && parameters_->Int(IntParam::kLogToConsole) != 0;
   while (text.ends_with('\n')) text.remove_suffix(1);
   for (;;) {
     auto const end = text.find('\n');

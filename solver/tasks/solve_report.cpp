@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <span>
 #include <string>
 
 #include "solver/tasks/check.hpp"
@@ -22,7 +23,7 @@ struct Range {
     least = std::min(least, size);
     greatest = std::max(greatest, size);
   }
-  void Add(std::vector<double> const& values) {
+  void Add(std::span<double const> values) {
     for (double const value : values) Add(value);
   }
 };

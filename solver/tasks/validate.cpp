@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 
 #include "solver/parameters/parameter_set.hpp"
 #include "solver/problem/failure.hpp"
@@ -24,7 +25,7 @@ void RequireNumber(double value, char const* what, std::string const& owner) {
   if (std::isnan(value)) Refuse(owner, ": ", what, " is not a number");
 }
 
-void ValidateRows(SparseMatrix const& matrix, std::vector<double> const& lower, std::vector<double> const& upper,
+void ValidateRows(SparseMatrix const& matrix, std::span<double const> lower, std::span<double const> upper,
                   NameList const& names, char const* kind) {
   for (int row = 0; row < static_cast<int>(lower.size()); ++row) {
     bool isFit = !std::isnan(lower[row]) && !std::isnan(upper[row]);
@@ -94,7 +95,7 @@ bool Crosses(double lower, double upper, double tolerance) {
   return lower > upper + tolerance * std::max(1.0, std::abs(upper)) || lower >= kInfinity || upper <= -kInfinity;
 }
 
-std::string CrossingRow(SparseMatrix const& matrix, std::vector<double> const& lower, std::vector<double> const& upper,
+std::string CrossingRow(SparseMatrix const& matrix, std::span<double const> lower, std::span<double const> upper,
                         NameList const& names, char const* kind, double tolerance) {
   for (int row = 0; row < static_cast<int>(lower.size()); ++row) {
     if (Crosses(lower[row], upper[row], tolerance)) return Called(kind, names, row) + ": its bounds cross";

@@ -11,25 +11,9 @@
 #include <vector>
 
 #include "tests/support/function_callback.hpp"
-
-#define EXPECT_SUCCESS(object) EXPECT_EQ((object)->GetLastError(), 0) << (object)->GetErrorMessage()
-#define EXPECT_FAILURE(object, code, text)           \
-  do {                                               \
-    EXPECT_EQ((object)->GetLastError(), code);       \
-    EXPECT_STREQ((object)->GetErrorMessage(), text); \
-  } while (false)
+#include "tests/support/objects.hpp"
 
 namespace vorqtest {
-
-template <class T>
-std::unique_ptr<T> Own(T* object) {
-  return std::unique_ptr<T>(object);
-}
-
-class SilentSink : public Vorq::ILogSink {
- public:
-  void Log(char const*) override {}
-};
 
 // Where the solver calls back.
 inline constexpr int kRelaxation = 1;

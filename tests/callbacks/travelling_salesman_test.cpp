@@ -13,15 +13,14 @@
 #include <vector>
 
 #include "tests/cli/program.hpp"
+#include "tests/support/objects.hpp"
 
 namespace {
 
-using testing::HasSubstr;
+using vorqtest::Own;
+using vorqtest::SilentSink;
 
-template <class T>
-std::unique_ptr<T> Own(T* object) {
-  return std::unique_ptr<T>(object);
-}
+using testing::HasSubstr;
 
 using Distances = std::vector<std::vector<double>>;
 
@@ -150,11 +149,6 @@ class RowByRow {
     }
     return tours;
   }
-
-  class SilentSink : public Vorq::ILogSink {
-   public:
-    void Log(char const*) override {}
-  };
 
   int n_;
   SilentSink sink_;

@@ -130,6 +130,19 @@ TEST_F(Tool, ConvertsSdpaToCbfAndTellsWhatIsLost) {
   EXPECT_EQ(result.errors, "vorq: warning: An NL file holds no names\n");
 }
 
+TEST_F(Tool, ConvertsConicFilesThatGzipPacked) {
+  std::string const sdpa = folder_.Write("m.dat-s", "1\n1\n2\n1\n1 1 1 2 1\n");
+  ASSERT_EQ(RunProgram("gzip -k " + sdpa).exitCode, 0);
+  auto const convert = [&](char const* from, char const* to) {
+    ProgramResult const result = Run("convert " + folder_.File(from).string() + " " + folder_.File(to).string());
+    EXPECT_EQ(result.exitCode, 0) << from << ": " << result.errors;
+  };
+  convert("m.dat-s", "plain.cbf");
+  convert("m.dat-s.gz", "packed.cbf.gz");
+  convert("packed.cbf.gz", "unpacked.cbf");
+  EXPECT_EQ(FileText(folder_.File("unpacked.cbf")), FileText(folder_.File("plain.cbf")));
+}
+
 TEST_F(Tool, RefusesAConversionThatTheFormatCannotHold) {
   std::string const cbf = folder_.Write("m.cbf", "VER\n1\nVAR\n3 1\nQ 3\n");
   std::string const out = folder_.File("a.mps").string();

@@ -24,7 +24,7 @@
 
 namespace vorqsolver::fuzz {
 
-using Write = WrittenModel (*)(ProblemData const& data);
+using Write = WrittenFile (*)(ProblemData const& data);
 using Read = ReadModel (*)(TextSource const& source);
 
 // A refusal to write is an answer; a text that is written must be read.

@@ -347,11 +347,6 @@ TEST_F(ColumnTest, ReduceMergesOnBothPaths) {
   EXPECT_THAT(column.coeffs, ElementsAre(3));
   sparse.Reduce(1000);
   EXPECT_THAT(sparse.coeffs, ElementsAre(3));
-  std::vector<double> sums(2);
-  std::vector<unsigned char> marks(2);
-  column.AddTerm(r_, 4);
-  column.ReduceDense(sums, marks);
-  EXPECT_THAT(column.coeffs, ElementsAre(7));
 }
 
 TEST_F(ColumnTest, ClearEmpties) {

@@ -84,7 +84,7 @@ class MatrixTest : public ItemsTest {
     return value;
   }
   static double ValueOf(Vorq::MExpression const& cell) {
-    double value = ValueOf(cell.expr);
+    double value = ValueOf(cell.ExplicitPart());
     for (std::uint64_t i = 0; i < cell.vars.Size(); ++i) value += cell.scale * cell.coeffs[i] * ValueOf(cell.vars[i]);
     return value;
   }

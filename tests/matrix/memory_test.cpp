@@ -70,7 +70,7 @@ TEST_F(MatrixMemory, ABlockOfLazyCellsTakesOneStore) {
 }
 
 TEST_F(MatrixMemory, CellsAreSmall) {
-  EXPECT_LE(sizeof(MExpression), 128u);
+  EXPECT_LE(sizeof(MExpression), 144u);
   EXPECT_LE(sizeof(MQExpression), 288u);
 }
 

@@ -92,7 +92,8 @@ class SparseProductTest : public OperandTest {
   static std::string Cells(Vorq::IMLinExpr<N>* block) {
     std::unique_ptr<Vorq::IMLinExpr<N>> const owner(block);
     std::string text;
-    Vorq::Unwrap(block).Cells().ForEach([&](MExpression const& cell) { text += "[" + Terms(cell.expr) + "]"; });
+    Vorq::Unwrap(block).Cells().ForEach(
+        [&](MExpression const& cell) { text += "[" + Terms(cell.ExplicitPart()) + "]"; });
     return text;
   }
   template <int N>

@@ -257,17 +257,17 @@ TEST_F(AffineConeTest, AnEmptyBlockIsLeftToTheSolverLibrary) {
 }
 
 TEST_F(AffineConeTest, NullObjectsAreRefused) {
-  constexpr char kRefused[] = "(INVALID) AddAffineCone is given a null object";
   Expr const expr = Sum({{x_, 1.0}});
   EXPECT_EQ(Own(model_->AddAffineCone(static_cast<Vorq::IAffineConeBuilder*>(nullptr), "c"))->GetIdx(), -2);
-  EXPECT_FAILURE(model_, 3, kRefused);
+  EXPECT_FAILURE(model_, 3, "(INVALID) Argument 'builder' of AddAffineCone is null");
   EXPECT_EQ(Own(model_->AddAffineCone(static_cast<Vorq::IMLinExpr<1>*>(nullptr), 1, "c"))->GetIdx(), -2);
+  EXPECT_FAILURE(model_, 3, "(INVALID) Argument 'exprs' of AddAffineCone is null");
   EXPECT_EQ(Own(model_->AddAffineCone(static_cast<Vorq::IMPsdExpr<1>*>(nullptr), 1, "c"))->GetIdx(), -2);
   EXPECT_EQ(Own(model_->AddAffineCone(std::vector<Vorq::IExpr*>{expr.get(), nullptr}, 1, "c"))->GetIdx(), -2);
   EXPECT_EQ(Own(model_->AddAffineCone(std::vector<Vorq::IPsdExpr*>{nullptr}, 1, "c"))->GetIdx(), -2);
-  EXPECT_FAILURE(model_, 3, kRefused);
+  EXPECT_FAILURE(model_, 3, "(INVALID) Argument 'exprs' of AddAffineCone holds a null");
   EXPECT_EQ(Own(model_->AddAffineCones(static_cast<Vorq::IMLinExpr<2>*>(nullptr), 1, "c"))->Size(), 0);
-  EXPECT_FAILURE(model_, 3, "(INVALID) AddAffineCones is given a null object");
+  EXPECT_FAILURE(model_, 3, "(INVALID) Argument 'exprs' of AddAffineCones is null");
   EXPECT_EQ(Own(model_->AddAffineCones(static_cast<Vorq::IMPsdExpr<2>*>(nullptr), 1, "c", 2))->Size(), 0);
   EXPECT_CALLS(double_, {});
 }
@@ -536,15 +536,21 @@ TEST_F(AffineConeReadingTest, FailuresTellWhichReadFailed) {
   EXPECT_FAILURE(model_, 5, "(INTERNAL) Fail to get row data of affine cone constraint");
 }
 
-TEST_F(AffineConeReadingTest, AFailedReadEndsTheArray) {
-  double_.FailNth("VORQ_GetAffineCone", 3, VORQ_MEMORY);
-  EXPECT_EQ(Own(model_->GetAffineConeBuilders())->Size(), 1);
-  EXPECT_FAILURE(model_, 1, "(MEMORY) Fail to get required row buffer size of affine cone constraint");
+TEST_F(AffineConeReadingTest, AFailedReadDoesNotEndTheArray) {
+  double_.FailNth("VORQ_GetAffineCone", 1, VORQ_MEMORY);
+  auto const all = Own(model_->GetAffineConeBuilders());
+  EXPECT_SUCCESS(model_);  // as the last read ended
+  ASSERT_EQ(all->Size(), 2);
+  EXPECT_EQ(Own(all->Get(0))->GetDim(), 0);
+  EXPECT_EQ(Own(all->Get(1))->GetDim(), 2);
   auto const chosen = Own(CreateAffineConeArray());
   for (auto const& cone : cones_) chosen->PushBack(*cone);
-  double_.FailNth("VORQ_GetAffineCone", 2, VORQ_MEMORY);
-  EXPECT_EQ(Own(model_->GetAffineConeBuilders(chosen.get()))->Size(), 0);
+  double_.FailNth("VORQ_GetAffineCone", 4, VORQ_MEMORY);
+  auto const builders = Own(model_->GetAffineConeBuilders(chosen.get()));
   EXPECT_FAILURE(model_, 1, "(MEMORY) Fail to get row data of affine cone constraint");
+  ASSERT_EQ(builders->Size(), 2);
+  EXPECT_EQ(Own(builders->Get(0))->GetDim(), 2);
+  EXPECT_EQ(Own(builders->Get(1))->GetDim(), 0);
 }
 
 TEST_F(AffineConeReadingTest, UnknownItemsEmptyTheBuilder) {
@@ -560,9 +566,9 @@ TEST_F(AffineConeReadingTest, UnknownItemsEmptyTheBuilder) {
 
 TEST_F(AffineConeReadingTest, NullObjectsAreRefused) {
   EXPECT_EQ(Own(model_->GetAffineConeBuilder(nullptr))->GetDim(), 0);
-  EXPECT_FAILURE(model_, 3, "(INVALID) GetAffineConeBuilder is given a null object");
+  EXPECT_FAILURE(model_, 3, "(INVALID) Argument 'cone' of GetAffineConeBuilder is null");
   EXPECT_EQ(Own(model_->GetAffineConeBuilders(nullptr))->Size(), 0);
-  EXPECT_FAILURE(model_, 3, "(INVALID) GetAffineConeBuilders is given a null object");
+  EXPECT_FAILURE(model_, 3, "(INVALID) Argument 'cones' of GetAffineConeBuilders is null");
 }
 
 TEST_F(AffineConeReadingTest, ABuilderAddsTheSameConeAgain) {

@@ -1,5 +1,6 @@
 // Blocks of linear constraints, cuts and lazy constraints, and single cells as constraints: one call for a block, with
 // each row merged and lazy products written straight from where they lie.
+#include "matrix/rank_change.hpp"
 #include "tests/model/blocks_fixture.hpp"
 
 namespace {
@@ -348,6 +349,13 @@ TEST_F(BlockConstraintsTest, RangesOfCuts) {
   builder.SetRange(Block<1>({1}, std::vector{Cell({{x_, 1.0}}, -1.0)}), 4.0);
   model_->AddUserCuts(Wrapped(builder).get(), "a");
   EXPECT_CALLS(double_, {R"_(VORQ_AddUserCuts(prob#1, 1, [0], [1], [0], [1], ['R'], [1], [4], ["a_0"]))_"});
+}
+
+TEST_F(BlockConstraintsTest, MoreRowsThanTheSolverLibraryCountsAreRefused) {
+  auto const endless = Handle(Vorq::Repeat1d(Cell({{x_, 1.0}}), 1ULL << 32));
+  EXPECT_EQ(Own(model_->AddMConstr(endless.get(), 'L', 1.0, "c"))->GetSize(), 0u);
+  EXPECT_FAILURE(model_, 3, "(INVALID) Invalid size of constraint names");
+  EXPECT_CALLS(double_, {});
 }
 
 TEST_F(BlockConstraintsTest, RefusedCuts) {

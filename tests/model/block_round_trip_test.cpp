@@ -9,26 +9,14 @@
 #include <vector>
 #include <vorq>
 
+#include "tests/model/expression_texts.hpp"
+#include "tests/support/objects.hpp"
+
 namespace {
 
-template <class T>
-std::unique_ptr<T> Own(T* object) {
-  return std::unique_ptr<T>(object);
-}
-
-class SilentSink : public Vorq::ILogSink {
- public:
-  void Log(char const*) override {}
-};
-
-std::string Text(Vorq::IExpr* expr) {
-  std::ostringstream out;
-  out << expr->GetConstant();
-  for (int i = 0; i < static_cast<int>(expr->GetSize()); ++i) {
-    out << " + " << expr->GetCoeff(i) << ' ' << Own(expr->GetVar(i))->GetName();
-  }
-  return out.str();
-}
+using vorqtest::Own;
+using vorqtest::SilentSink;
+using vorqtest::Text;
 
 class BlockRoundTripTest : public testing::Test {
  protected:

@@ -1,5 +1,6 @@
 // Blocks of quadratic, PSD and indicator constraints, and single cells as such constraints and as objectives: one call
 // of the solver library a cell.
+#include "matrix/rank_change.hpp"
 #include "tests/model/blocks_fixture.hpp"
 
 namespace {
@@ -28,6 +29,7 @@ class BlockSpecialConstraintsTest : public vorqtest::BlocksTest {
   }
   static Vorq::NdArray<Vorq::Var, 1> const& Cells(VarBlock<1> const& vars) { return Vorq::Unwrap(vars.get()).Cells(); }
 
+  using BlocksTest::Wrapped;
   template <int N>
   static auto Wrapped(Vorq::MQConstrBuilder<N> const& builder) {
     return Own(Vorq::Wrap<Vorq::IMQConstrBuilder<N>>(builder));
@@ -409,6 +411,23 @@ TEST_F(BlockSpecialConstraintsTest, AFailedQuadraticPartLeavesTheLinearObjective
   model_->SetQuadObjective(Quad(QuadCell()).get(), 1);
   EXPECT_FAILURE(model_, 1, "(MEMORY) Fail to set quadratic objective");
   EXPECT_EQ(double_.Calls().size(), 1u);
+}
+
+TEST_F(BlockSpecialConstraintsTest, MoreConstraintsThanTheSolverLibraryCountsAreRefused) {
+  constexpr std::uint64_t kEndless = 1ULL << 32;
+  auto const quadratic = Handle(Vorq::Repeat1d(Vorq::MQExpression(1.0), kEndless));
+  EXPECT_EQ(Own(model_->AddMQConstr(quadratic.get(), 'L', 1.0, "q"))->GetSize(), 0u);
+  EXPECT_FAILURE(model_, 3, "(INVALID) Invalid size of quadratic constraint names");
+  auto const semidefinite = Handle(Vorq::Repeat1d(Vorq::PsdExpr(1.0), kEndless));
+  EXPECT_EQ(Own(model_->AddMPsdConstr(semidefinite.get(), 'L', 1.0, "p"))->GetSize(), 0u);
+  EXPECT_FAILURE(model_, 3, "(INVALID) Invalid size of PSD constraint names");
+  auto const vars = Handle(Vorq::Repeat1d(Vorq::Unwrap(x_.get()), kEndless));
+  Vorq::MConstrBuilder<1> builder;
+  builder.expr = Vorq::Repeat1d(Cell({{x_, 1.0}}), kEndless);
+  builder.sense = 'L';
+  EXPECT_EQ(Own(model_->AddGenConstrIndicators(vars.get(), 1, BlocksTest::Wrapped(builder).get(), 0, "g"))->Size(), 0);
+  EXPECT_FAILURE(model_, 3, "(INVALID) Invalid size of general constraint names");
+  EXPECT_CALLS(double_, {});
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 // Loading pieces of a problem, and a whole one with cones, from arrays.
+#include "tests/model/cone_problem_arrays.hpp"
 #include "tests/model/special_fixture.hpp"
 
 namespace {
@@ -70,34 +71,8 @@ TEST_F(BulkLoadsTest, RefusedPiecesHaveTheirTexts) {
 }
 
 TEST_F(BulkLoadsTest, ConeProblemReplacesTheProblem) {
-  int const symDims[] = {2};
-  int const symBeg[] = {0, 1};
-  int const symRows[] = {1};
-  int const symCols[] = {0};
-  double const symVals[] = {0.5};
-  double const objs[] = {1, 2, 3};
-  int const colBeg[] = {0, 1, 1};
-  int const colCnt[] = {1, 0, 0};
-  int const rows[] = {0};
-  double const coefs[] = {4};
-  double const lbs[] = {5, 6, 7};
-  double const ubs[] = {8, 9, 10};
-  double const lowers[] = {11};
-  double const uppers[] = {12};
-  int const quadRows[] = {0};
-  int const quadCols[] = {1};
-  double const quadVals[] = {13};
-  int const coneTypes[] = {1};
-  int const coneDims[] = {2};
-  int const coneCols[] = {0, 1};
-  int const expConeTypes[] = {3};
-  int const expConeCols[] = {2, 1, 0};
-  int const psdDims[] = {2};
-  int const psdObjMats[] = {0};
   double_.Answer("VORQ_GetPSDCols").Set("dims", {2});
-  model_->LoadConeMatrix(3, 1, 1, 1, 1, 1, 1, 1, symDims, symBeg, symRows, symCols, symVals, objs, colBeg, colCnt, rows,
-                         coefs, "CIC", lbs, ubs, lowers, uppers, quadRows, quadCols, quadVals, coneTypes, coneDims,
-                         coneCols, expConeTypes, expConeCols, psdDims, psdObjMats);
+  vorqtest::LoadConeProblem(*model_, {5, 6, 7});
   EXPECT_SUCCESS(model_);
   EXPECT_EQ(double_.Calls()[0],
             "VORQ_LoadConeProb(prob#1, 3, 1, 1, 1, 1, 1, 1, 1, [2], [0,1], [1], [0], [0.5], 1, 0, [1,2,3], [0,1,1], "

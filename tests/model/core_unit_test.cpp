@@ -1,19 +1,23 @@
 // What of a model cannot be seen through the interfaces: names of copies, listeners, dimensions, scratch space.
 #include "model/model.hpp"
 #include "tests/double/solver_double.hpp"
+#include "tests/support/objects.hpp"
 
 namespace {
 
-class SilentSink : public Vorq::ILogSink {
- public:
-  void Log(char const*) override {}
-};
+using vorqtest::SilentSink;
 
 class CoreUnitTest : public vorqtest::SolverDoubleTest {
  protected:
   CoreUnitTest() { double_.ClearLog(); }
 
   VORQ_Prob* Prob() { return model_.Core().prob->prob; }
+
+  // Sets a callback that does nothing, and who is told of the columns.
+  void Listen(Vorq::Model::ColumnCountListener listener) {
+    auto const ignore = [](VORQ_Prob*, VORQ_CallbackData*, int, void*) { return 0; };
+    EXPECT_TRUE(model_.SetCallback(ignore, 1, nullptr, std::move(listener)));
+  }
 
   SilentSink sink_;
   Vorq::Envr envr_{&sink_};
@@ -30,7 +34,7 @@ TEST_F(CoreUnitTest, CopiesAreNamedAfterTheirSource) {
 TEST_F(CoreUnitTest, ListenerHearsOfRemovedColumns) {
   std::vector<int> heard;
   Vorq::VarArray vars = model_.AddVars(3, 'C', "x");
-  model_.SetColumnCountListener([&heard](int count) {
+  Listen([&heard](int count) {
     heard.push_back(count);
     return true;
   });
@@ -43,7 +47,7 @@ TEST_F(CoreUnitTest, ListenerDoesNotHearOfOtherKinds) {
   bool heard = false;
   double const bounds[] = {0.0};
   Vorq::ConstrArray constrs = model_.AddConstrs(1, bounds, bounds, "c");
-  model_.SetColumnCountListener([&heard](int) { return heard = true; });
+  Listen([&heard](int) { return heard = true; });
   constrs[0].MarkRemoved();
   EXPECT_TRUE(model_.ApplyRemovals());
   EXPECT_FALSE(heard);
@@ -51,7 +55,7 @@ TEST_F(CoreUnitTest, ListenerDoesNotHearOfOtherKinds) {
 
 TEST_F(CoreUnitTest, ListenerHearsOfAReload) {
   std::vector<int> heard;
-  model_.SetColumnCountListener([&heard](int count) {
+  Listen([&heard](int count) {
     heard.push_back(count);
     return true;
   });
@@ -62,7 +66,7 @@ TEST_F(CoreUnitTest, ListenerHearsOfAReload) {
 
 TEST_F(CoreUnitTest, ClearForgetsTheListener) {
   bool heard = false;
-  model_.SetColumnCountListener([&heard](int) { return heard = true; });
+  Listen([&heard](int) { return heard = true; });
   model_.Clear();
   model_.ReloadItems();
   EXPECT_FALSE(heard);
@@ -71,7 +75,7 @@ TEST_F(CoreUnitTest, ClearForgetsTheListener) {
 TEST_F(CoreUnitTest, ListenerHearsOfASolveAndMayRefuseIt) {
   bool takes = true;
   std::vector<int> heard;
-  model_.SetColumnCountListener([&](int count) {
+  Listen([&](int count) {
     heard.push_back(count);
     return takes;
   });

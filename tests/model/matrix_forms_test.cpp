@@ -138,13 +138,13 @@ TEST_F(BlockConesTest, NullBlocksAreRefused) {
   Vorq::IMVar<1>* const vector = nullptr;
   Vorq::IMVar<2>* const matrix = nullptr;
   EXPECT_EQ(Own(model_->AddCone(vector, 1))->GetIdx(), -2);
-  EXPECT_FAILURE(model_, 3, "(INVALID) AddCone is given a null object");
+  EXPECT_FAILURE(model_, 3, "(INVALID) Argument 'vars' of AddCone is null");
   EXPECT_EQ(Own(model_->AddExpCone(vector, 3))->GetIdx(), -2);
-  EXPECT_FAILURE(model_, 3, "(INVALID) AddExpCone is given a null object");
+  EXPECT_FAILURE(model_, 3, "(INVALID) Argument 'vars' of AddExpCone is null");
   EXPECT_EQ(Own(model_->AddCones(matrix, 1))->Size(), 0);
-  EXPECT_FAILURE(model_, 3, "(INVALID) AddCones is given a null object");
+  EXPECT_FAILURE(model_, 3, "(INVALID) Argument 'vars' of AddCones is null");
   EXPECT_EQ(Own(model_->AddExpCones(matrix, 3))->Size(), 0);
-  EXPECT_FAILURE(model_, 3, "(INVALID) AddExpCones is given a null object");
+  EXPECT_FAILURE(model_, 3, "(INVALID) Argument 'vars' of AddExpCones is null");
   EXPECT_CALLS(double_, {});
 }
 
@@ -224,9 +224,9 @@ TEST_F(BlockRemovalTest, NullBlocksAreRefused) {
   Vorq::IMVar<0>* const vars = nullptr;
   Vorq::IMPsdConstr<3>* const constrs = nullptr;
   model_->Remove(vars);
-  EXPECT_FAILURE(model_, 3, "(INVALID) Remove is given a null object");
+  EXPECT_FAILURE(model_, 3, "(INVALID) Argument 'vars' of Remove is null");
   model_->Remove(constrs);
-  EXPECT_FAILURE(model_, 3, "(INVALID) Remove is given a null object");
+  EXPECT_FAILURE(model_, 3, "(INVALID) Argument 'constrs' of Remove is null");
 }
 
 // ---- Relaxation with pointers
@@ -359,10 +359,10 @@ TEST_F(BlockRelaxationTest, NullObjectsAreRefused) {
   auto const vars = Vector({x_.get()});
   auto const constrs = Vector({constrs_[0].get()});
   model_->FeasRelax(noVars, none, none, constrs.get(), none, none);
-  EXPECT_FAILURE(model_, 3, "(INVALID) FeasRelax is given a null object");
+  EXPECT_FAILURE(model_, 3, "(INVALID) Argument 'vars' of FeasRelax is null");
   EXPECT_SUCCESS(Own(model_->GetVar(0)));
   model_->FeasRelax(vars.get(), none_.get(), none_.get(), constrs.get(), none_.get(), noNumbers);
-  EXPECT_FAILURE(model_, 3, "(INVALID) FeasRelax is given a null object");
+  EXPECT_FAILURE(model_, 3, "(INVALID) Argument 'rowUppPen' of FeasRelax is null");
   EXPECT_CALLS(double_, {});
 }
 

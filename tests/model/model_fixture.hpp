@@ -9,27 +9,9 @@
 #include <vector>
 
 #include "tests/double/solver_double.hpp"
-
-// The outcome of the last operation of an environment, a model or an item. Without a text only the code is looked at,
-// for a success keeps the text of an earlier failure.
-#define EXPECT_SUCCESS(object) EXPECT_EQ((object)->GetLastError(), 0) << (object)->GetErrorMessage()
-#define EXPECT_FAILURE(object, code, text)           \
-  do {                                               \
-    EXPECT_EQ((object)->GetLastError(), code);       \
-    EXPECT_STREQ((object)->GetErrorMessage(), text); \
-  } while (false)
+#include "tests/support/objects.hpp"
 
 namespace vorqtest {
-
-template <class T>
-std::unique_ptr<T> Own(T* object) {
-  return std::unique_ptr<T>(object);
-}
-
-class SilentSink : public Vorq::ILogSink {
- public:
-  void Log(char const*) override {}
-};
 
 class ModelTest : public SolverDoubleTest {
  protected:

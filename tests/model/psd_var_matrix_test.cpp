@@ -190,7 +190,7 @@ TEST_F(PsdVarMatrixTest, NullArgumentsAreRefused) {
   Vorq::INdArray<int, 1>* const positions = nullptr;
   Vorq::INdArray<int, 2>* const coords = nullptr;
   EXPECT_EQ(Own(two_->Pick(view))->GetSize(), 1u);
-  EXPECT_FAILURE(two_, 3, "(INVALID) Pick is given a null object");
+  EXPECT_FAILURE(two_, 3, "(INVALID) Argument 'view' of Pick is null");
   EXPECT_EQ(Own(two_->Pick(positions))->GetSize(), 1u);
   EXPECT_EQ(Own(two_->Pick(coords))->GetLastError(), 3);
 }

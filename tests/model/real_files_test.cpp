@@ -10,19 +10,14 @@
 #include <memory>
 #include <string>
 
+#include "tests/support/objects.hpp"
+
 namespace {
 
+using vorqtest::Own;
+using vorqtest::SilentSink;
+
 namespace fs = std::filesystem;
-
-template <class T>
-std::unique_ptr<T> Own(T* object) {
-  return std::unique_ptr<T>(object);
-}
-
-class SilentSink : public Vorq::ILogSink {
- public:
-  void Log(char const*) override {}
-};
 
 class RealFilesTest : public testing::Test {
  protected:

@@ -6,17 +6,12 @@
 #include <memory>
 #include <string>
 
+#include "tests/support/objects.hpp"
+
 namespace {
 
-template <class T>
-std::unique_ptr<T> Own(T* object) {
-  return std::unique_ptr<T>(object);
-}
-
-class SilentSink : public Vorq::ILogSink {
- public:
-  void Log(char const*) override {}
-};
+using vorqtest::Own;
+using vorqtest::SilentSink;
 
 // max 3x + 2y, x + y <= 4, x + 3y <= 6, x <= 3: the best point is (3, 1) with 11.
 class RealSolverTest : public testing::Test {

@@ -7,27 +7,17 @@
 #include <string>
 #include <vorq>
 
+#include "tests/model/cone_problem_arrays.hpp"
+#include "tests/model/expression_texts.hpp"
+#include "tests/support/objects.hpp"
+
 namespace {
 
-template <class T>
-std::unique_ptr<T> Own(T* object) {
-  return std::unique_ptr<T>(object);
-}
-
-class SilentSink : public Vorq::ILogSink {
- public:
-  void Log(char const*) override {}
-};
+using vorqtest::Own;
+using vorqtest::SilentSink;
+using vorqtest::Text;
 
 // Builders and expressions as texts.
-std::string Text(Vorq::IExpr* expr) {
-  std::ostringstream out;
-  out << expr->GetConstant();
-  for (int i = 0; i < static_cast<int>(expr->GetSize()); ++i) {
-    out << " + " << expr->GetCoeff(i) << ' ' << Own(expr->GetVar(i))->GetName();
-  }
-  return out.str();
-}
 std::string Text(Vorq::IQuadExpr* expr) {
   std::ostringstream out;
   out << Text(Own(expr->GetLinExpr()).get());
@@ -431,33 +421,7 @@ TEST_F(RoundTripTest, NewConesMakeTheirVariables) {
 }
 
 TEST_F(RoundTripTest, ConeProblemIsLoadedWhole) {
-  int const symDims[] = {2};
-  int const symBeg[] = {0, 1};
-  int const symRows[] = {1};
-  int const symCols[] = {0};
-  double const symVals[] = {0.5};
-  double const objs[] = {1, 2, 3};
-  int const colBeg[] = {0, 1, 1};
-  int const colCnt[] = {1, 0, 0};
-  int const rows[] = {0};
-  double const coefs[] = {4};
-  double const lbs[] = {0, 0, 0};
-  double const ubs[] = {8, 9, 10};
-  double const lowers[] = {11};
-  double const uppers[] = {12};
-  int const quadRows[] = {0};
-  int const quadCols[] = {1};
-  double const quadVals[] = {13};
-  int const coneTypes[] = {1};
-  int const coneDims[] = {2};
-  int const coneCols[] = {0, 1};
-  int const expConeTypes[] = {3};
-  int const expConeCols[] = {2, 1, 0};
-  int const psdDims[] = {2};
-  int const psdObjMats[] = {0};
-  model_->LoadConeMatrix(3, 1, 1, 1, 1, 1, 1, 1, symDims, symBeg, symRows, symCols, symVals, objs, colBeg, colCnt, rows,
-                         coefs, "CIC", lbs, ubs, lowers, uppers, quadRows, quadCols, quadVals, coneTypes, coneDims,
-                         coneCols, expConeTypes, expConeCols, psdDims, psdObjMats);
+  vorqtest::LoadConeProblem(*model_, {0, 0, 0});
   ExpectSuccess();
   char const* const names[] = {"u", "v", "w"};
   for (int i = 0; i < 3; ++i) Own(model_->GetVar(i))->SetName(names[i]);

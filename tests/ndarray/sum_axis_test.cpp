@@ -100,6 +100,14 @@ TEST(ArraySumAxis, WholeNumbersWrapAround) {
   EXPECT_EQ(SumAxis(NdArray<long long, 2>::Filled(NDim<2>({2, 1}), kLongMax), 0).Get(0), -2);
 }
 
+TEST(ArraySumAxis, MoreElementsThanCanBeCountedAreRefused) {
+  auto const sum = SumAxis(Vorq::RepeatElement(5, 1ULL << 63), 0);
+  EXPECT_EQ(sum.GetLastError(), 3);
+  EXPECT_STREQ(sum.GetErrorMessage(), "(INVALID) Array of shape (9223372036854775808) is too large to be summed");
+  EXPECT_EQ(sum.Get(0), 0);
+  EXPECT_EQ(SumAxis(Vorq::ExpandDims(Vorq::RepeatElement(5, 1ULL << 63), 1), 1).GetLastError(), 3);
+}
+
 TEST(ArraySumAxis, AnAxisThatThereIsNot) {
   auto const array = OfInts<2>({1, 2}, {7, 8});
   auto const negative = SumAxis(array, -1);

@@ -8,6 +8,7 @@
 #include "handles/shapes.hpp"
 #include "handles/views.hpp"
 #include "tests/operators/operand_fixture.hpp"
+#include "vorqmodel/broadcast_helper.h"
 #include "vorqmodel/exports.h"
 
 namespace vorqtest {
@@ -264,6 +265,32 @@ TEST_F(Factory, NullFillFunctionGivesZeros) {
 TEST_F(Factory, ViewIsEmpty) {
   auto const view = Own(factory_->CreateView());
   EXPECT_TRUE(Impl(view).Operations().empty());
+}
+
+TEST_F(Factory, NullObjectsAreRefused) {
+  auto const shape = Shape<2>({2, 3});
+  auto const var = Handle<Vorq::IVar>(Make<Vorq::Var>("x", 0));
+  auto const expectRefused = [](auto const& block, char const* text) {
+    EXPECT_EQ(block->GetSize(), 1u);
+    EXPECT_EQ(block->GetLastError(), 3);
+    EXPECT_STREQ(block->GetErrorMessage(), text);
+  };
+  Vorq::INdArray<double, 2>* const noNumbers = nullptr;
+  Vorq::INDim<2>* const noShape = nullptr;
+  Vorq::IVar* const noVar = nullptr;
+  Vorq::IVarArray* const noVars = nullptr;
+  expectRefused(Own(factory_->CreateMVar(noShape, var.get())), "(INVALID) Operand 1 is null");
+  expectRefused(Own(factory_->CreateMVar(shape.get(), noVar)), "(INVALID) Operand 2 is null");
+  expectRefused(Own(factory_->CreateMVar(shape.get(), noVars)), "(INVALID) Operand 2 is null");
+  expectRefused(Own(factory_->CreateNdArray(noShape, 1.0)), "(INVALID) Operand 1 is null");
+  EXPECT_EQ(Own(factory_->CreateMConstrBuilder(noShape))->GetLastError(), 3);
+  EXPECT_EQ(Own(factory_->CreateMExpression(static_cast<Vorq::IExpr*>(nullptr)))->GetConstant(), 0.0);
+
+  auto const helper = Own(CreateBroadCastHelper());
+  auto const block = Own(factory_->CreateMVar(shape.get(), var.get()));
+  expectRefused(Own(helper->Add(block.get(), noNumbers)), "(INVALID) Operand 2 is null");
+  expectRefused(Own(helper->Mul(noNumbers, block.get())), "(INVALID) Operand 1 is null");
+  expectRefused(Own(helper->Sub(noNumbers, noNumbers)), "(INVALID) Operand 1 is null");
 }
 
 }  // namespace

@@ -53,4 +53,13 @@ TEST_F(SossTest, AFailedBatchAddsNothing) {
   EXPECT_EQ(Attribute("Soss"), 0);
 }
 
+TEST_F(SossTest, AColumnThatStandsTwiceIsNamed) {
+  ListenToLog();
+  int const twice[] = {1, 0, 3, 2, 3};
+  EXPECT_EQ(VORQ_AddSOSs(prob, 2, types, begins, counts, twice, nullptr), VORQ_INVALID);
+  EXPECT_THAT(lines, ElementsAre("Error: An SOS constraint has column 3 twice"));
+  // Two sets may share a column.
+  EXPECT_EQ(VORQ_AddSOSs(prob, 2, types, begins, counts, cols, nullptr), VORQ_OK);
+}
+
 }  // namespace

@@ -4,6 +4,7 @@
 #include <optional>
 #include <random>
 
+#include "tests/solver/engines/roads.hpp"
 #include "tests/solver/engines/solve_fixture.hpp"
 
 namespace {
@@ -50,6 +51,7 @@ class Generator {
   void AddColumn(GridProblem& problem);
 
   std::mt19937 random_;
+  bool areEqual_ = false;  // most rows
 };
 
 void Generator::AddColumn(GridProblem& problem) {
@@ -65,7 +67,7 @@ void Generator::AddColumn(GridProblem& problem) {
 GridRow Generator::MakeRow(GridProblem const& problem) {
   GridRow row;
   for (std::size_t k = 0; k < problem.types.size(); ++k) row.coefs.push_back(Between(0, 2) == 0 ? 0 : Between(-4, 4));
-  row.sense = "LLGGER"[Between(0, 5)];
+  row.sense = (areEqual_ ? "EEEELG" : "LLGGER")[Between(0, 5)];
   row.bound = Between(-6, 6);
   row.upper = row.bound + Between(0, 5);
   return row;
@@ -75,6 +77,7 @@ GridProblem Generator::Make() {
   GridProblem problem;
   problem.sense = Between(0, 1) == 0 ? 1 : -1;
   int const cols = Between(2, 5);
+  areEqual_ = Between(0, 3) == 0;
   for (int k = 0; k < cols; ++k) AddColumn(problem);
   int const rows = Between(0, 4);
   for (int k = 0; k < rows; ++k) problem.rows.push_back(MakeRow(problem));
@@ -159,6 +162,7 @@ class GridModel : public SolveTest {
   void ExpectFeasible(GridProblem const& problem);
 
   using SolveTest::Dbl;
+  using SolveTest::prob;
   using SolveTest::Set;
   using SolveTest::Solve;
 };
@@ -192,13 +196,17 @@ TEST_P(BruteForceTest, FindsWhatTheSearchFinds) {
     SCOPED_TRACE(seed);
     auto const problem = Generator(static_cast<unsigned>(seed)).Make();
     auto const best = Search(problem);
-    GridModel model;
-    model.Build(problem);
-    int const status = model.Solve();
-    ASSERT_EQ(status, best ? kOptimal : kInfeasible);
-    if (!best) continue;
-    ASSERT_NEAR(model.Dbl("BestObj"), *best, 1e-6);
-    model.ExpectFeasible(problem);
+    for (auto const road : kRoads) {
+      SCOPED_TRACE(static_cast<int>(road));
+      GridModel model;
+      model.Build(problem);
+      TakeRoad(model.prob, road);
+      int const status = model.Solve();
+      ASSERT_EQ(status, best ? kOptimal : kInfeasible);
+      if (!best) continue;
+      ASSERT_NEAR(model.Dbl("BestObj"), *best, 1e-6);
+      model.ExpectFeasible(problem);
+    }
   }
 }
 

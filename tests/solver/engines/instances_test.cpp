@@ -10,6 +10,7 @@
 #include <iterator>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "frame/vorq_solver.h"
@@ -128,6 +129,17 @@ void ExpectBracket(VORQ_Prob* prob, Instance const& instance) {
   }
 }
 
+// Takes half a minute of processor time, of the engine's own code, which a sanitizer build does not look into.
+constexpr char const* kLong = "sp150x300d";
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool kIsSanitized = true;
+#elif defined(__has_feature)
+constexpr bool kIsSanitized = __has_feature(address_sanitizer) || __has_feature(thread_sanitizer);
+#else
+constexpr bool kIsSanitized = false;
+#endif
+
 // Solves the instance `name` and hands the problem to `expect`.
 void SolveNamed(char const* name, double seconds, void (*expect)(VORQ_Prob*, Instance const&)) {
   char const* folder = std::getenv("VORQ_INSTANCES");
@@ -149,7 +161,10 @@ void SolveNamed(char const* name, double seconds, void (*expect)(VORQ_Prob*, Ins
 }
 
 TEST_P(InstancesTest, ReachesThePublishedOptimum) {
-  SolveNamed(GetParam(), 250.0, ExpectOptimum);
+  if (kIsSanitized && GetParam() == std::string_view(kLong)) {
+    GTEST_SKIP() << kLong << " takes too long in a sanitizer build; other builds solve it";
+  }
+  SolveNamed(GetParam(), 800.0, ExpectOptimum);
 }
 
 TEST(Instances, AShortSearchBracketsTheOptimumOfAHardSosModel) {

@@ -123,6 +123,23 @@ TEST_P(FurnitureTest, StartsFromValues) {
 
 INSTANTIATE_TEST_SUITE_P(BothDirections, FurnitureTest, testing::Values(1.0, -1.0));
 
+// The engine's dual method ends at bounds of its own.
+TEST_F(LpTest, UnboundedBesideFreeColumns) {
+  Col(4.0, 0.0, 1.0);
+  Col(0.0, -10.0, -6.0);
+  Col(-8.0, 0.0, 1.0);
+  Col(-8.0, 1.0, 17.0);
+  Col(-10.0, -1.0, 19.0);
+  Col(-4.0, -kInf, kInf);
+  Col(7.0, -kInf, kInf);
+  Col(2.0, -2.0, -2.0);
+  Row({1, 3, 4, 7}, {5.0, -7.0, 9.0, -4.0}, 'L', -27.0);
+  Row({2, 3, 4, 5, 7}, {0.5, 9.0, -6.0, -2.0, 2.0}, 'L', 6.0);
+  Row({0, 1, 2, 3, 4, 5}, {-3.0, 3.0, 1.0, -3.0, -3.0, 8.0}, 'G', -10.0);
+  Row({0, 1, 2, 3, 4, 5, 6, 7}, {-1.0, -3.0, -8.0, -4.0, -9.0, 9.0, 9.0, -5.0}, 'G', 30.0);
+  EXPECT_EQ(Solve(), kUnbounded);
+}
+
 TEST_F(LpTest, SlacksOfLowerSidedAndRangedAndFreeRows) {
   Col(1.0, 3.0, 3.0);
   Row({0}, {1.0}, 'G', 1.0);

@@ -195,6 +195,9 @@ TEST(BinaryFile, NamesTheItemThatCannotBe) {
   data.soss.push_back({1, {1}, {}});
   EXPECT_EQ(FailureOfContent(data), "m.bin: SOS 0: column 1 does not exist (there are 1)");
   data = OneColumn();
+  data.soss.push_back({1, {0, 0}, {}});
+  EXPECT_EQ(FailureOfContent(data), "m.bin: SOS 0: column 0 twice");
+  data = OneColumn();
   data.indicators.push_back({0, 0, 1, {}, 'L', 0.0});
   EXPECT_EQ(FailureOfContent(data), "m.bin: indicator 0: its column is not binary");
   data = OneColumn();

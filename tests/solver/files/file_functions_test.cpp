@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -174,6 +175,38 @@ TEST_F(FileFunctions, ABasisIsWrittenAndRead) {
   ASSERT_EQ(VORQ_WriteBasis(prob_, Path("a.bas").c_str()), VORQ_OK);
   EXPECT_EQ(Text(Path("a.bas")), "NAME\n XL x  c1\nENDATA\n");
   EXPECT_EQ(VORQ_ReadBasis(prob_, Path("a.bas").c_str()), VORQ_OK);
+}
+
+// Solutions, starts and bases tell of names that they cannot hold, as problem files do.
+TEST_F(FileFunctions, ChangedNamesAreTold) {
+  std::string const warning = "Warning: Name 'b c' of column 1 is written as ";
+  ReadSample(false);
+  char const* const names[] = {"b c"};
+  ASSERT_EQ(VORQ_SetColNames(prob_, 1, nullptr, names), VORQ_OK);
+  ASSERT_EQ(VORQ_Solve(prob_), VORQ_OK);
+  lines_.clear();
+  EXPECT_EQ(VORQ_WriteBasis(prob_, Path("a.bas").c_str()), VORQ_OK);
+  EXPECT_EQ(lines_, (std::vector<std::string>{warning + "'b_c'", "Wrote '" + Path("a.bas") + "'"}));
+  char const* const twins[] = {"x", "x"};
+  ASSERT_EQ(VORQ_SetColNames(prob_, 2, nullptr, twins), VORQ_OK);
+  for (auto const write : {VORQ_WriteSol, VORQ_WriteMst}) {
+    lines_.clear();
+    EXPECT_EQ(write(prob_, Path("a.sol").c_str()), VORQ_OK);
+    EXPECT_EQ(lines_, (std::vector<std::string>{"Warning: Name 'x' of column 2 is written as 'x_2'",
+                                                "Wrote '" + Path("a.sol") + "'"}));
+  }
+}
+
+// Packed by gzip itself, which puts name and time into the head.
+TEST_F(FileFunctions, ConicFilesPackedByGzipAreRead) {
+  std::string const sdpa = Put("m.dat-s", "2\n2\n2 -1\n1 2\n0 1 1 1 1\n1 1 1 1 1\n2 1 2 2 1\n1 2 1 1 3\n");
+  std::string const cbf = Put("m.cbf", "VER\n1\nVAR\n3 1\nQ 3\nCON\n1 1\nL+ 1\nACOORD\n1\n0 2 5\n");
+  ASSERT_EQ(std::system(("gzip " + sdpa + " " + cbf).c_str()), 0);
+  ASSERT_FALSE(fs::exists(sdpa) || fs::exists(cbf));
+  ASSERT_EQ(VORQ_ReadSDPA(prob_, (sdpa + ".gz").c_str()), VORQ_OK);
+  EXPECT_EQ(lines_.back(), "Read '" + sdpa + ".gz': 1 rows, 2 columns, 1 nonzeros, 1 LMI constraints");
+  ASSERT_EQ(VORQ_ReadCbf(prob_, (cbf + ".gz").c_str()), VORQ_OK);
+  EXPECT_EQ(lines_.back(), "Read '" + cbf + ".gz': 1 rows, 3 columns, 1 nonzeros, 1 cones");
 }
 
 int WriteTuned(VORQ_Prob* prob, char const* path) {

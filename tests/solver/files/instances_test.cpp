@@ -17,6 +17,7 @@
 #include "solver/files/mps_reader.hpp"
 #include "solver/files/mps_writer.hpp"
 #include "solver/files/sdpa_reader.hpp"
+#include "tests/cli/program.hpp"
 #include "tests/solver/files/describe.hpp"
 
 namespace vorqsolver::test {
@@ -138,6 +139,17 @@ TEST_F(Instances, ReadBackTheSameFromCbf) {
     auto const written = WriteCbf(data);
     EXPECT_EQ(written.warnings, Warnings()) << path;
     EXPECT_TRUE(Describe(ReadCbf({"m.cbf", written.text}).data) == Describe(data)) << path;
+  }
+}
+
+// Packed by gzip, as instances are handed out: .cbf.gz and .dat-s.gz.
+TEST_F(Instances, ConicFilesReadTheSameWhenPacked) {
+  TemporaryFolder const folder;
+  for (auto const& path : files_) {
+    if (!IsConic(path)) continue;
+    std::string const packed = folder.File(path.filename().string() + ".gz").string();
+    ASSERT_EQ(std::system(("gzip -c '" + path.string() + "' >" + packed).c_str()), 0);
+    EXPECT_TRUE(Describe(ReaderOf(path)->read(LoadText(packed)).data) == Describe(Read(path))) << path;
   }
 }
 

@@ -19,7 +19,7 @@ namespace {
 struct Format {
   char const* name;
   ModelKinds kinds;
-  WrittenModel (*write)(ProblemData const& data);
+  WrittenFile (*write)(ProblemData const& data);
   ReadModel (*read)(TextSource const& source);
 };
 

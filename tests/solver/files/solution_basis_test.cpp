@@ -18,18 +18,18 @@ ProblemData Sample() {
 }
 
 TEST(SolutionFile, WritesObjectiveAndAllColumns) {
-  EXPECT_EQ(WriteSolution(Sample(), std::vector<double>{1, 0.1, -2, 3}, 2.1),
+  EXPECT_EQ(WriteSolution(Sample(), std::vector<double>{1, 0.1, -2, 3}, 2.1).text,
             "# Objective value = 2.1\nx 1\ny 0.1\nz -2\nf 3\n");
 }
 
 TEST(SolutionFile, LeavesOpenValuesOut) {
-  EXPECT_EQ(WriteSolution(Sample(), std::vector<double>{VORQ_UNDEFINED, 0.1, VORQ_UNDEFINED, 3}, std::nullopt),
+  EXPECT_EQ(WriteSolution(Sample(), std::vector<double>{VORQ_UNDEFINED, 0.1, VORQ_UNDEFINED, 3}, std::nullopt).text,
             "y 0.1\nf 3\n");
 }
 
 TEST(SolutionFile, ReadsBackWhatWasWritten) {
   std::vector<double> const values = {1.0 / 3.0, 1e-17, -12345678.9, VORQ_UNDEFINED};
-  auto const read = ReadSolution({"m.sol", WriteSolution(Sample(), values, 7.0)}, Sample());
+  auto const read = ReadSolution({"m.sol", WriteSolution(Sample(), values, 7.0).text}, Sample());
   EXPECT_EQ(read.values, values);
   EXPECT_EQ(read.count, 3);
 }
@@ -45,6 +45,19 @@ TEST(SolutionFile, NamesUnnamedColumnsByTheirNumber) {
   ProblemData data = Sample();
   data.columns.names.Set(2, "");
   EXPECT_EQ(ReadSolution({"m.sol", "C3 8\n"}, data).values[2], 8.0);
+}
+
+TEST(SolutionFile, TellsOfChangedNames) {
+  ProblemData data = Sample();
+  data.columns.names.Set(1, "# y");
+  data.columns.names.Set(2, "x");
+  data.columns.names.Set(3, "");
+  std::vector<double> const values = {1, 2, 3, 4};
+  auto const written = WriteSolution(data, values, std::nullopt);
+  EXPECT_EQ(written.text, "x 1\n_# y 2\nx_2 3\nC4 4\n");
+  EXPECT_EQ(written.warnings,
+            (Warnings{"Name '# y' of column 2 is written as '_# y'", "Name 'x' of column 3 is written as 'x_2'"}));
+  EXPECT_EQ(ReadSolution({"m.sol", written.text}, data).values, values);
 }
 
 struct FailureCase {
@@ -90,14 +103,32 @@ TEST(BasisFile, ReadsAllKindsOfLines) {
 
 TEST(BasisFile, WritesTheUsualForm) {
   Basis const basis{{kBasic, kUpper, kBasic, kFixed}, {kBasic, kFixed, kUpper}};
-  EXPECT_EQ(WriteBasisFile(Sample(), basis), "NAME\n XL x  c2\n UL y\n XU z  c3\nENDATA\n");
+  EXPECT_EQ(WriteBasisFile(Sample(), basis).text, "NAME\n XL x  c2\n UL y\n XU z  c3\nENDATA\n");
 }
 
 TEST(BasisFile, ReadsBackWhatWasWritten) {
   Basis const basis{{kBasic, kUpper, kBasic, kFixed}, {kBasic, kFixed, kUpper}};
-  auto const read = ReadBasisFile({"m.bas", WriteBasisFile(Sample(), basis)}, Sample());
+  auto const read = ReadBasisFile({"m.bas", WriteBasisFile(Sample(), basis).text}, Sample());
   EXPECT_EQ(read.cols, basis.cols);
   EXPECT_EQ(read.rows, basis.rows);
+}
+
+// Lazy constraints and the objective have names in MPS files, not in basis files.
+TEST(BasisFile, TellsOfChangedNamesOfColumnsAndRows) {
+  ProblemData data = Sample();
+  data.columns.names.Set(0, "my x");
+  data.rows.names.Set(1, "c1");
+  data.rows.names.Set(2, "OBJ");
+  data.lazyConstraints.matrix.AppendRow(std::vector<int>{0}, std::vector<double>{1.0});
+  data.lazyConstraints.lower = {0};
+  data.lazyConstraints.upper = {1};
+  data.lazyConstraints.names.Set(0, "no word");
+  Basis const basis{{kBasic, kUpper, kBasic, kFixed}, {kBasic, kFixed, kUpper}};
+  auto const written = WriteBasisFile(data, basis);
+  EXPECT_EQ(written.text, "NAME\n XL my_x  c1_2\n UL y\n XU z  OBJ\nENDATA\n");
+  EXPECT_EQ(written.warnings,
+            (Warnings{"Name 'my x' of column 1 is written as 'my_x'", "Name 'c1' of row 2 is written as 'c1_2'"}));
+  EXPECT_EQ(ReadBasisFile({"m.bas", written.text}, data).rows, basis.rows);
 }
 
 TEST(BasisFile, RefusesToWriteABasisOfAnotherSize) {

@@ -246,6 +246,34 @@ TEST(Writers, MpsRefusesRowsWhoseBoundsCross) {
   EXPECT_EQ(Describe(ReadLp({"m.lp", WriteLp(data).text}).data), Describe(data));
 }
 
+// 1e30 is infinite to a reader; the width just below it is the widest that can be stated.
+TEST(Writers, MpsRefusesRangesThatAreTooWide) {
+  for (double const upper : {6e29, 5e29}) {
+    ProblemData data = TwoColumns();
+    AddRow(data.rows, "c1", {{0, 1}}, -upper, upper);
+    EXPECT_EQ(FailureOf([&] { WriteMps(data); }), "An MPS file cannot hold row 'c1', whose range is 1e30 wide or more");
+    EXPECT_EQ(Describe(ReadLp({"m.lp", WriteLp(data).text}).data), Describe(data));
+  }
+  ProblemData data = TwoColumns();
+  AddRow(data.rows, "c1", {{0, 1}}, 1, std::nextafter(1e30, 0.0));
+  AddRow(data.rows, "c2", {{0, 1}}, -4.9e29, 5e29);
+  EXPECT_EQ(Describe(ReadMps({"m.mps", WriteMps(data).text}).data), Describe(data));
+}
+
+TEST(Writers, MpsKeepsMarkersAndNamesApart) {
+  ProblemData data;
+  AddColumn(data, "'MARKER'", 'I', 0, 9, 1);
+  AddColumn(data, "'INTORG'", 'C', 0, 9, 1);
+  AddRow(data.rows, "'MARKER'", {{0, 1}, {1, 1}}, 1, kInfinity);
+  AddRow(data.rows, "'INTEND'", {{0, 1}, {1, 2}}, 1, kInfinity);
+  auto const written = WriteMps(data);
+  EXPECT_EQ(written.warnings, (Warnings{"Name ''MARKER'' of column 1 is written as ''MARKER'_'",
+                                        "Name ''MARKER'' of row 1 is written as ''MARKER'_'"}));
+  data.columns.names.Set(0, "'MARKER'_");
+  data.rows.names.Set(0, "'MARKER'_");
+  EXPECT_EQ(Describe(ReadMps({"m.mps", written.text}).data), Describe(data));
+}
+
 TEST(Writers, RefuseValuesThatAreNotNumbers) {
   ProblemData data = TwoColumns();
   data.columns.objective[0] = std::nan("");

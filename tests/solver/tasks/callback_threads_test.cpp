@@ -4,6 +4,7 @@
 #include <thread>
 
 #include "tests/solver/tasks/callback_fixture.hpp"
+#include "tests/solver/tasks/two_threads.hpp"
 
 namespace {
 
@@ -61,16 +62,7 @@ TEST(TwoProblemsWithCallbacks, SolveInTwoThreads) {
     }
     double objective = -1.0;
   };
-  One alone;
-  alone.TestBody();
-  One first;
-  One second;
-  {
-    std::jthread const a([&] { first.TestBody(); });
-    std::jthread const b([&] { second.TestBody(); });
-  }
-  EXPECT_NEAR(first.objective, alone.objective, 1e-6);
-  EXPECT_NEAR(second.objective, alone.objective, 1e-6);
+  ExpectSameInTwoThreads<One>();
 }
 
 }  // namespace

@@ -46,6 +46,25 @@ TEST_F(MipStartsTest, FullStartIsAcceptedAsItIs) {
   EXPECT_THAT(StartLines(), testing::ElementsAre("MIP start 1: accepted, objective 9.000000000e+00"));
 }
 
+// With a callback, our own branch and cut is the engine.
+TEST_F(MipStartsTest, FullStartCountsWhereALimitIsMetAtTheRoot) {
+  for (bool const hasCallback : {false, true}) {
+    SCOPED_TRACE(hasCallback);
+    if (hasCallback) {
+      ASSERT_EQ(VORQ_SetCallback(
+                    prob, [](VORQ_Prob*, VORQ_CallbackData*, int, void*) { return 0; }, -1, nullptr),
+                VORQ_OK);
+    }
+    Set("TimeLimit", 0.0);
+    Start({0, 1, 2, 3}, {0.0, 1.0, 1.0, 2.0});
+    EXPECT_EQ(Solve(), kTimeLimit);
+    ASSERT_EQ(Int("HasMipSol"), 1);
+    EXPECT_NEAR(Dbl("BestObj"), 9.0, 1e-9);
+    EXPECT_THAT(Values(), AreClose({0.0, 1.0, 1.0, 2.0}));
+    EXPECT_GE(Dbl("BestBnd"), 12.0);
+  }
+}
+
 TEST_F(MipStartsTest, OpenContinuousColumnsAreCompleted) {
   Start({0, 1, 2}, {0.0, 1.0, 1.0});
   EXPECT_THAT(StartLines(), testing::ElementsAre("MIP start 1: completed, objective 1.100000000e+01"));

@@ -3,6 +3,7 @@
 #include <thread>
 
 #include "tests/solver/engines/solve_fixture.hpp"
+#include "tests/solver/tasks/two_threads.hpp"
 
 namespace {
 
@@ -28,8 +29,13 @@ TEST_F(SolveThreadsTest, ProblemCannotChangeOrSolveAgainDuringASolve) {
     std::this_thread::sleep_for(std::chrono::milliseconds(300));
     EXPECT_EQ(VORQ_Solve(prob), VORQ_INVALID);
     EXPECT_EQ(VORQ_SetSlackBasis(prob), VORQ_INVALID);
+    int const column = 0;
+    char const* const name = "late";
+    EXPECT_EQ(VORQ_SetColNames(prob, 1, &column, &name), VORQ_INVALID);
   });
   EXPECT_EQ(Solve(), kTimeLimit);
+  int index = 0;
+  EXPECT_EQ(VORQ_GetColIdx(prob, "late", &index), VORQ_INVALID);
 }
 
 TEST(TwoProblems, SolveInTwoThreads) {
@@ -43,16 +49,7 @@ TEST(TwoProblems, SolveInTwoThreads) {
     }
     double objective = -1.0;
   };
-  One alone;
-  alone.TestBody();
-  One first;
-  One second;
-  {
-    std::jthread const a([&] { first.TestBody(); });
-    std::jthread const b([&] { second.TestBody(); });
-  }
-  EXPECT_NEAR(first.objective, alone.objective, 1e-6);
-  EXPECT_NEAR(second.objective, alone.objective, 1e-6);
+  ExpectSameInTwoThreads<One>();
 }
 
 }  // namespace
