@@ -6,6 +6,7 @@
 #include "solver/api/arguments.hpp"
 #include "solver/api/guard.hpp"
 #include "solver/tasks/callback_session.hpp"
+#include "solver/tasks/validate.hpp"
 
 using namespace vorqsolver;
 
@@ -36,8 +37,16 @@ struct GivenRows {
 LinearRow TakeRow(GivenRows const& given, int place, int colCount) {
   char const sense = ToComparison(given.senses[place]);
   auto const range = ToRange(sense, given.sides[place], kInfinity);
-  return {LinearTerms(given.terms.Of(place, given.cols), given.terms.Of(place, given.coefs), colCount), range.lower,
-          range.upper};
+  if (range.lower >= kInfinity || range.upper <= -kInfinity) {
+    Refuse("No point keeps its side ", given.sides[place], " of sense '", sense, "'");
+  }
+  LinearRow row = {LinearTerms(given.terms.Of(place, given.cols), given.terms.Of(place, given.coefs), colCount),
+                   range.lower, range.upper};
+  for (auto const& term : row.terms) {
+    if (std::abs(term.value) < kTooGreat) continue;
+    Refuse("Its coefficient ", term.value, " of column ", term.col, " is too great to calculate with");
+  }
+  return row;
 }
 
 // All rows, checked, or a failure that names the first bad one.

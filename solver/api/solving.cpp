@@ -92,7 +92,7 @@ int VORQ_ComputeIIS(VORQ_Prob* prob) {
 // sides. Without `rowUpp` both sides take `rowBnd`; elsewhere a finite entry of `rowUpp` is for the upper side.
 int VORQ_FeasRelax(VORQ_Prob* prob, double const* colLow, double const* colUpp, double const* rowBnd,
                    double const* rowUpp) {
-  return Guard(prob, [&](Problem& problem) {
+  return Idle(prob, [&](Problem& problem) {
     auto const copy = [](double const* from, int count) {
       return std::vector(from, from == nullptr ? from : from + count);
     };

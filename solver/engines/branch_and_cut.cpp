@@ -15,6 +15,7 @@
 
 #include "solver/engines/branching.hpp"
 #include "solver/engines/cbc_setup.hpp"
+#include "solver/engines/clp_engine.hpp"
 #include "solver/engines/search_solutions.hpp"
 #include "solver/engines/search_tree.hpp"
 #include "solver/engines/sub_search.hpp"
@@ -143,6 +144,12 @@ SolveResult BranchAndCut::Run() {
 // The first relaxation; false where it settles the problem.
 bool BranchAndCut::SolveRoot() {
   auto outcome = relaxation_.Solve();
+  if (outcome == Outcome::kInfeasible) {
+    // The engine's word is no proof.
+    auto const proved = ProvedStatus(mip_.linear, task_);
+    if (proved == SolveStatus::kUnbounded) outcome = Outcome::kUnbounded;
+    if (proved == SolveStatus::kOptimal) outcome = Outcome::kFailed;
+  }
   if (outcome == Outcome::kUnbounded && pool_.Size() > 0) {
     // Lazy constraints may bound it.
     std::vector<int> all(static_cast<std::size_t>(pool_.Size()));

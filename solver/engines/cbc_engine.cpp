@@ -17,6 +17,7 @@
 #include "solver/engines/branch_and_cut.hpp"
 #include "solver/engines/cbc_setup.hpp"
 #include "solver/engines/clp_control.hpp"
+#include "solver/engines/clp_engine.hpp"
 #include "solver/engines/mip_incumbents.hpp"
 #include "solver/engines/mip_model.hpp"
 #include "solver/engines/mip_progress.hpp"
@@ -185,12 +186,19 @@ bool CbcSolver::SolveRoot() {
     result_.mipStatus = task_.stop.Reason();
     return false;
   }
+  if (solver_.isProvenPrimalInfeasible()) {
+    // The engine's word is no proof; where it is wrong, its other method goes on.
+    auto const proved = ProvedStatus(mip_.linear, task_);
+    if (proved == SolveStatus::kInfeasible) {
+      result_.mipStatus = SolveStatus::kInfeasible;
+      return false;
+    }
+    if (proved == SolveStatus::kUnbounded) return FinishUnboundedRoot();
+    solver_.setHintParam(OsiDoDualInInitial, false, OsiHintTry);
+    solver_.initialSolve();
+  }
   bool const isFar = solver_.isProvenOptimal() && IsFarAway(*solver_.getModelPtr());
   if (isFar || solver_.isProvenDualInfeasible()) return FinishUnboundedRoot();
-  if (solver_.isProvenPrimalInfeasible()) {
-    result_.mipStatus = SolveStatus::kInfeasible;
-    return false;
-  }
   if (!solver_.isProvenOptimal()) {
     result_.mipStatus = SolveStatus::kNumerical;
     return false;

@@ -1,10 +1,8 @@
-// Verification of rays against the problem.
+// Verification of points and rays against the model.
 #include "solver/engines/certificates.hpp"
 
 #include <algorithm>
 #include <cmath>
-
-#include "solver/engines/linear_model.hpp"
 
 namespace vorqsolver {
 
@@ -25,82 +23,98 @@ bool Normalise(std::vector<double>& ray, double sign) {
   return true;
 }
 
-bool ProvesInfeasible(ProblemData const& data, LinearModel const& model, std::span<double const> ray) {
-  std::vector<double> combined(data.columns.Count(), 0.0);
-  std::vector<double> magnitude(data.columns.Count(), 0.0);
-  double asked = 0.0;
-  double scale = 0.0;
-  for (int row = 0; row < data.rows.Count(); ++row) {
-    if (ray[row] == 0.0) continue;
-    double const bound = ray[row] > 0.0 ? data.rows.lower[row] : data.rows.upper[row];
-    if (std::abs(bound) >= kInfinity) return false;
-    asked += ray[row] * bound;
-    scale = std::max(scale, std::abs(ray[row] * bound));
-    auto const view = data.rows.matrix.Row(row);
-    for (std::size_t k = 0; k < view.indices.size(); ++k) {
-      combined[view.indices[k]] += ray[row] * view.values[k];
-      magnitude[view.indices[k]] = std::max(magnitude[view.indices[k]], std::abs(ray[row] * view.values[k]));
-    }
+// What a combination of terms comes to, beside the greatest of them.
+struct Sum {
+  double value = 0.0;
+  double greatest = 0.0;
+
+  void Add(double term) {
+    value += term;
+    greatest = std::max(greatest, std::abs(term));
   }
-  double reached = 0.0;
-  for (int col = 0; col < data.columns.Count(); ++col) {
-    if (std::abs(combined[col]) <= kCancelled * magnitude[col]) continue;
-    double const bound = combined[col] > 0.0 ? model.upper[col] : model.lower[col];
-    if (std::abs(bound) >= kInfinity) return false;
-    reached += combined[col] * bound;
-    scale = std::max(scale, std::abs(combined[col] * bound));
-  }
-  return reached < asked - kNegligible * scale;
+};
+
+Sum Activity(LinearModel const& model, int row, std::span<double const> point) {
+  Sum activity;
+  model.VisitRow(row, [&](int col, double value) { activity.Add(value * point[col]); });
+  return activity;
 }
 
-bool IsRay(ProblemData const& data, LinearModel const& model, std::span<double const> ray) {
+bool ProvesInfeasible(LinearModel const& model, std::span<double const> ray) {
+  std::vector<Sum> combined(model.ColCount());
+  Sum asked;
+  for (int row = 0; row < model.RowCount(); ++row) {
+    if (ray[row] == 0.0) continue;
+    double const bound = ray[row] > 0.0 ? model.rowLower[row] : model.rowUpper[row];
+    if (std::abs(bound) >= kInfinity) return false;
+    asked.Add(ray[row] * bound);
+    model.VisitRow(row, [&](int col, double value) { combined[col].Add(ray[row] * value); });
+  }
+  Sum reached;
+  for (int col = 0; col < model.ColCount(); ++col) {
+    auto const& [value, greatest] = combined[col];
+    if (std::abs(value) <= kCancelled * greatest) continue;
+    double const bound = value > 0.0 ? model.upper[col] : model.lower[col];
+    if (std::abs(bound) >= kInfinity) return false;
+    reached.Add(value * bound);
+  }
+  return reached.value < asked.value - kNegligible * std::max(asked.greatest, reached.greatest);
+}
+
+bool IsRay(LinearModel const& model, std::span<double const> ray) {
   double gain = 0.0;
-  for (int col = 0; col < data.columns.Count(); ++col) {
+  for (int col = 0; col < model.ColCount(); ++col) {
     if (ray[col] > 0.0 && model.upper[col] < kInfinity) return false;
     if (ray[col] < 0.0 && model.lower[col] > -kInfinity) return false;
     gain += model.cost[col] * ray[col];
   }
-  for (int row = 0; row < data.rows.Count(); ++row) {
-    auto const view = data.rows.matrix.Row(row);
-    double activity = 0.0;
-    double magnitude = 0.0;
-    for (std::size_t k = 0; k < view.indices.size(); ++k) {
-      double const term = view.values[k] * ray[view.indices[k]];
-      activity += term;
-      magnitude = std::max(magnitude, std::abs(term));
-    }
-    double const tolerance = 10.0 * kNegligible * magnitude;
-    if (activity > tolerance && data.rows.upper[row] < kInfinity) return false;
-    if (activity < -tolerance && data.rows.lower[row] > -kInfinity) return false;
+  for (int row = 0; row < model.RowCount(); ++row) {
+    auto const activity = Activity(model, row, ray);
+    double const tolerance = 10.0 * kNegligible * activity.greatest;
+    if (activity.value > tolerance && model.rowUpper[row] < kInfinity) return false;
+    if (activity.value < -tolerance && model.rowLower[row] > -kInfinity) return false;
   }
   return gain < -kNegligible;
 }
 
 }  // namespace
 
-std::vector<double> VerifiedFarkasRay(ProblemData const& data, std::span<double const> ray) {
-  LinearModel const model(data, false);
+std::vector<double> VerifiedFarkasRay(LinearModel const& model, std::span<double const> ray) {
   for (double const sign : {1.0, -1.0}) {
-    std::vector<double> candidate(ray.begin(), ray.begin() + data.rows.Count());
-    if (Normalise(candidate, sign) && ProvesInfeasible(data, model, candidate)) return candidate;
+    std::vector<double> candidate(ray.begin(), ray.begin() + model.RowCount());
+    if (Normalise(candidate, sign) && ProvesInfeasible(model, candidate)) return candidate;
   }
   return {};
 }
 
-std::vector<double> VerifiedPrimalRay(ProblemData const& data, std::span<double const> ray) {
-  LinearModel const model(data, false);
+std::vector<double> VerifiedPrimalRay(LinearModel const& model, std::span<double const> ray) {
   for (double const sign : {1.0, -1.0}) {
-    std::vector<double> candidate(ray.begin(), ray.begin() + data.columns.Count());
+    std::vector<double> candidate(ray.begin(), ray.begin() + model.ColCount());
     if (!Normalise(candidate, sign)) return {};
     // A direction that a bound forbids by next to nothing is rounding.
-    for (int col = 0; col < data.columns.Count(); ++col) {
+    for (int col = 0; col < model.ColCount(); ++col) {
       bool const up = candidate[col] > 0.0;
       bool const bounded = up ? model.upper[col] < kInfinity : model.lower[col] > -kInfinity;
       if (bounded && std::abs(candidate[col]) < 1e-7) candidate[col] = 0.0;
     }
-    if (IsRay(data, model, candidate)) return candidate;
+    if (IsRay(model, candidate)) return candidate;
   }
   return {};
+}
+
+bool HoldsIn(LinearModel const& model, std::span<double const> point, double tolerance) {
+  auto const isInside = [&](double value, double lower, double upper, double size) {
+    return value >= lower - tolerance * std::max({1.0, size, std::abs(lower)}) &&
+           value <= upper + tolerance * std::max({1.0, size, std::abs(upper)});
+  };
+  for (int col = 0; col < model.ColCount(); ++col) {
+    if (!isInside(point[col], model.lower[col], model.upper[col], 0.0)) return false;
+  }
+  for (int row = 0; row < model.RowCount(); ++row) {
+    auto const activity = Activity(model, row, point);
+    if (!isInside(activity.value, model.rowLower[row], model.rowUpper[row], activity.greatest)) return false;
+  }
+  return true;
 }
 
 }  // namespace vorqsolver

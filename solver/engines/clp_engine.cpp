@@ -10,10 +10,12 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <optional>
+#include <span>
 
 #include "solver/engines/certificates.hpp"
 #include "solver/engines/clp_control.hpp"
-#include "solver/engines/osi_setup.hpp"
+#include "solver/engines/lp_questions.hpp"
 #include "solver/problem/failure.hpp"
 
 namespace vorqsolver {
@@ -29,6 +31,14 @@ constexpr int kPresolvePasses = 5;
 // Clp's own numbers for the outcome of a solve.
 enum ClpOutcome { kOptimal = 0, kInfeasible = 1, kUnbounded = 2, kLimit = 3, kStoppedByEvent = 5 };
 
+// Beyond this a point is no evidence of anything.
+constexpr double kFar = 1e9;
+constexpr double kProofTolerance = 1e-10;
+
+std::span<double const> Entries(double const* first, int count) {
+  return {first, static_cast<std::size_t>(count)};
+}
+
 class ClpSolver {
  public:
   ClpSolver(LinearModel const& model, SolveTask const& task) : model_(model), task_(task) {
@@ -36,6 +46,11 @@ class ClpSolver {
     Prepare(simplex_);
     model.Load(simplex_);
     result_.engine = "Clp";
+    method_ = task.parameters.Int(IntParam::kLpMethod);
+    if (method_ == kBarrier && !SuitsBarrier()) {
+      task.log.Line("The barrier method is not used: the sizes of the numbers differ too much for it");
+      method_ = kDual;
+    }
   }
 
   SolveResult Run();
@@ -44,17 +59,23 @@ class ClpSolver {
   void Prepare(ClpSimplex& simplex);
   void Report(ClpSimplex const* simplex);
   void RunMethod(ClpSimplex& simplex);
+  void RunPrimal(ClpSimplex& simplex, int valuesPass = 0);
+  bool SuitsBarrier() const;
   void RunBarrier();
   bool RunPresolved();
   void SetStartBasis();
   void SetStartValues();
   void Finish();
-  void FinishUnbounded();
-  bool IsFeasible();
-  void SolveFeasibility(ClpSimplex& feasibility);
-  void FindFarkasRay();
-  bool TakeFarkasRay(ClpSimplex const& simplex);
-  int Method() const { return task_.parameters.Int(IntParam::kLpMethod); }
+  bool WasStopped(ClpSimplex const& simplex);
+  void TakeOptimum();
+  bool TakeEngineRay();
+  bool TakeFarkasRay(std::span<double const> ray);
+  void TakePrimalRay();
+  bool FindPrimalRay();
+  bool FindPoint();
+  int Method() const { return method_; }
+  bool IsRayWanted() const { return task_.parameters.Int(IntParam::kReqFarkasRay) != 0; }
+  std::span<double const> Point() const { return Entries(simplex_.primalColumnSolution(), model_.ColCount()); }
 
   LinearModel const& model_;
   SolveTask const& task_;
@@ -62,7 +83,9 @@ class ClpSolver {
   IterationWatch::Report report_;
   ClpSimplex simplex_;
   SolveResult result_;
-  int iterations_ = 0;  // of finished models, beside those of simplex_
+  int method_ = kAutomatic;
+  int iterations_ = 0;                            // of the runs that are over
+  std::optional<std::vector<double>> primalRay_;  // once looked for; empty if there is none
   double lastLine_ = 0.0;
   bool hasHeader_ = false;
 };
@@ -92,10 +115,33 @@ void ClpSolver::Report(ClpSimplex const* simplex) {
 
 void ClpSolver::RunMethod(ClpSimplex& simplex) {
   if (Method() == kPrimal) {
-    simplex.primal();
-  } else {
-    simplex.dual();
+    RunPrimal(simplex);
+    return;
   }
+  simplex.dual();
+  iterations_ += simplex.numberIterations();
+}
+
+void ClpSolver::RunPrimal(ClpSimplex& simplex, int valuesPass) {
+  simplex.primal(valuesPass);
+  iterations_ += simplex.numberIterations();
+}
+
+// The engine's barrier ends the whole process where its steps grow beyond all measure, which takes numbers beyond
+// these.
+bool ClpSolver::SuitsBarrier() const {
+  auto const suits = [](double value) {
+    double const size = std::abs(value);
+    return size == 0.0 || size >= kInfinity || (size > 1e-9 && size < 1e9);
+  };
+  for (auto const* values : {&model_.cost, &model_.lower, &model_.upper, &model_.rowLower, &model_.rowUpper}) {
+    if (!std::ranges::all_of(*values, suits)) return false;
+  }
+  bool result = true;
+  for (int row = 0; row < model_.RowCount(); ++row) {
+    model_.VisitRow(row, [&](int, double value) { result = result && suits(value); });
+  }
+  return result;
 }
 
 void ClpSolver::RunBarrier() {
@@ -121,7 +167,6 @@ bool ClpSolver::RunPresolved() {
                   static_cast<long long>(reduced->getNumElements()));
   Prepare(*reduced);
   RunMethod(*reduced);
-  iterations_ += reduced->numberIterations();
   if (reduced->status() == kStoppedByEvent) {
     presolve.destroyPresolve();
     result_.lpStatus = task_.stop.Reason();
@@ -134,7 +179,7 @@ bool ClpSolver::RunPresolved() {
   presolve.postsolve(true);
   // From the basis carried back: no iterations, or few.
   Prepare(simplex_);
-  simplex_.primal();
+  RunPrimal(simplex_);
   return true;
 }
 
@@ -186,93 +231,116 @@ SolveResult ClpSolver::Run() {
     RunMethod(simplex_);
   } else if (!task_.startValues.empty()) {
     SetStartValues();
-    simplex_.primal(1);
+    RunPrimal(simplex_, 1);
   } else if (!presolves || !RunPresolved()) {
     RunMethod(simplex_);
   }
   if (result_.lpStatus == SolveStatus::kUnstarted) Finish();
-  result_.simplexIterations = iterations_ + (Method() == kBarrier ? 0 : simplex_.numberIterations());
+  result_.simplexIterations = iterations_;
   return std::move(result_);
 }
 
+// What the engine says of infeasible and unbounded problems can be wrong, with free columns above all, and far out a
+// point can seem optimal where there is no end. So only what is proved is reported.
 void ClpSolver::Finish() {
-  if (simplex_.status() == kOptimal && IsFarAway(simplex_)) {
-    iterations_ += simplex_.numberIterations();
-    simplex_.createStatus();
-    simplex_.primal();
+  // The engine says unbounded of all that is dual infeasible; a second look tells more.
+  if (simplex_.status() == kUnbounded) RunPrimal(simplex_);
+  if (WasStopped(simplex_)) return;
+  if (simplex_.status() == kInfeasible && TakeEngineRay()) return;
+  bool const isFar = std::ranges::any_of(Point(), [](double value) { return std::abs(value) >= kFar; });
+  if (simplex_.status() == kOptimal && (!isFar || !FindPrimalRay())) {
+    TakeOptimum();
+    return;
   }
-  switch (simplex_.status()) {
-    case kOptimal:
-      result_.lpStatus = SolveStatus::kOptimal;
-      ReadLpSolution(simplex_, model_, task_.data, result_);
-      if (Method() == kBarrier && task_.parameters.Int(IntParam::kCrossover) == 0) result_.basis = {};
-      return;
-    case kInfeasible:
-      result_.lpStatus = SolveStatus::kInfeasible;
-      if (task_.parameters.Int(IntParam::kReqFarkasRay) != 0) FindFarkasRay();
-      return;
-    case kUnbounded: FinishUnbounded(); return;
-    case kLimit: result_.lpStatus = SolveStatus::kUnfinished; return;
-    case kStoppedByEvent: result_.lpStatus = task_.stop.Reason(); return;
-    default: result_.lpStatus = SolveStatus::kNumerical;
+  bool const isPoint = !isFar && HoldsIn(model_, Point(), task_.parameters.Dbl(DblParam::kFeasTol));
+  if (!isPoint && !FindPoint()) return;
+  if (FindPrimalRay()) {
+    TakePrimalRay();
+    return;
   }
+  // There are a point and an end, so there is an optimum.
+  RunPrimal(simplex_);
+  if (WasStopped(simplex_)) return;
+  result_.lpStatus = SolveStatus::kNumerical;
+  if (simplex_.status() == kOptimal) TakeOptimum();
 }
 
-// The engine says unbounded also of problems that are infeasible; a second look tells which it is.
-void ClpSolver::FinishUnbounded() {
-  iterations_ += simplex_.numberIterations();
-  simplex_.primal();
-  if (simplex_.status() == kStoppedByEvent) {
-    result_.lpStatus = task_.stop.Reason();
-    return;
-  }
-  std::unique_ptr<double[]> const ray(simplex_.status() == kUnbounded ? simplex_.unboundedRay() : nullptr);
-  if (!IsFeasible()) {
-    auto const reason = task_.stop.Reason();
-    result_.lpStatus = reason == SolveStatus::kUnstarted ? SolveStatus::kInfeasible : reason;
-    return;
-  }
+bool ClpSolver::WasStopped(ClpSimplex const& simplex) {
+  if (simplex.status() == kLimit) result_.lpStatus = SolveStatus::kUnfinished;
+  if (simplex.status() == kStoppedByEvent) result_.lpStatus = task_.stop.Reason();
+  return result_.lpStatus != SolveStatus::kUnstarted;
+}
+
+void ClpSolver::TakeOptimum() {
+  result_.lpStatus = SolveStatus::kOptimal;
+  ReadLpSolution(simplex_, model_, task_.data, result_);
+  if (Method() == kBarrier && task_.parameters.Int(IntParam::kCrossover) == 0) result_.basis = {};
+}
+
+bool ClpSolver::TakeEngineRay() {
+  std::unique_ptr<double[]> const ray(simplex_.infeasibilityRay());
+  return ray && TakeFarkasRay(Entries(ray.get(), model_.RowCount()));
+}
+
+// The caller's ray speaks of the rows of the problem alone.
+bool ClpSolver::TakeFarkasRay(std::span<double const> ray) {
+  auto proof = VerifiedFarkasRay(model_, ray);
+  if (proof.empty()) return false;
+  result_.lpStatus = SolveStatus::kInfeasible;
+  auto const rows = static_cast<std::size_t>(task_.data.rows.Count());
+  bool const usesOthers =
+      std::ranges::any_of(std::span(proof).subspan(rows), [](double value) { return value != 0.0; });
+  if (!IsRayWanted() || usesOthers) return true;
+  proof.resize(rows);
+  result_.farkasRay = std::move(proof);
+  return true;
+}
+
+void ClpSolver::TakePrimalRay() {
   result_.lpStatus = SolveStatus::kUnbounded;
-  if (ray && task_.parameters.Int(IntParam::kReqFarkasRay) != 0) {
-    result_.primalRay = VerifiedPrimalRay(task_.data, {ray.get(), static_cast<std::size_t>(model_.ColCount())});
+  if (!IsRayWanted()) return;
+  result_.primalRay = *primalRay_;
+  result_.primalRay.resize(static_cast<std::size_t>(task_.data.columns.Count()));
+}
+
+// Whether there is a direction without an end, the engine's own or another one.
+bool ClpSolver::FindPrimalRay() {
+  if (primalRay_) return !primalRay_->empty();
+  primalRay_.emplace();
+  if (std::ranges::all_of(model_.cost, [](double cost) { return cost == 0.0; })) return false;
+  std::unique_ptr<double[]> const ray(simplex_.status() == kUnbounded ? simplex_.unboundedRay() : nullptr);
+  if (ray) primalRay_ = VerifiedPrimalRay(model_, Entries(ray.get(), model_.ColCount()));
+  if (!primalRay_->empty()) return true;
+  ClpSimplex directions;
+  Prepare(directions);
+  LoadDirections(model_, directions);
+  RunPrimal(directions);
+  if (directions.status() == kOptimal) {
+    primalRay_ = VerifiedPrimalRay(model_, Entries(directions.primalColumnSolution(), model_.ColCount()));
   }
+  return !primalRay_->empty();
 }
 
-bool ClpSolver::IsFeasible() {
-  ClpSimplex feasibility;
-  SolveFeasibility(feasibility);
-  return feasibility.status() == kOptimal;
-}
-
-// The same rows and bounds without an objective.
-void ClpSolver::SolveFeasibility(ClpSimplex& feasibility) {
-  Prepare(feasibility);
-  LinearModel withoutCost = model_;
-  std::ranges::fill(withoutCost.cost, 0.0);
-  withoutCost.Load(feasibility);
-  feasibility.dual();
-  iterations_ += feasibility.numberIterations();
-}
-
-// The engine's first ray may prove nothing, so other roads to infeasibility follow: the primal method from the slack
-// basis, then the dual one without an objective.
-void ClpSolver::FindFarkasRay() {
-  if (TakeFarkasRay(simplex_)) return;
-  iterations_ += simplex_.numberIterations();
-  simplex_.createStatus();
-  simplex_.primal();
-  if (TakeFarkasRay(simplex_)) return;
-  ClpSimplex feasibility;
-  SolveFeasibility(feasibility);
-  TakeFarkasRay(feasibility);
-}
-
-bool ClpSolver::TakeFarkasRay(ClpSimplex const& simplex) {
-  if (simplex.status() != kInfeasible) return false;
-  std::unique_ptr<double[]> const ray(simplex.infeasibilityRay());
-  if (!ray) return false;
-  result_.farkasRay = VerifiedFarkasRay(task_.data, {ray.get(), static_cast<std::size_t>(model_.RowCount())});
-  return !result_.farkasRay.empty();
+// Looks for a point to go on from; where there is none, the result says why.
+bool ClpSolver::FindPoint() {
+  ClpSimplex elastic;
+  Prepare(elastic);
+  LoadElastic(model_, elastic);
+  // Its duals have to be a proof, which a reduced cost of the wrong sign spoils however small it is.
+  elastic.setDualTolerance(kProofTolerance);
+  RunPrimal(elastic);
+  if (WasStopped(elastic)) return false;
+  auto const point = Entries(elastic.primalColumnSolution(), model_.ColCount());
+  if (HoldsIn(model_, point, task_.parameters.Dbl(DblParam::kFeasTol))) {
+    std::ranges::copy(point, simplex_.primalColumnSolution());
+    for (int col = 0; col < model_.ColCount(); ++col) simplex_.setColumnStatus(col, elastic.getColumnStatus(col));
+    for (int row = 0; row < model_.RowCount(); ++row) simplex_.setRowStatus(row, elastic.getRowStatus(row));
+    return true;
+  }
+  if (!TakeFarkasRay(Entries(elastic.dualRowSolution(), model_.RowCount()))) {
+    result_.lpStatus = SolveStatus::kNumerical;
+  }
+  return false;
 }
 
 }  // namespace
@@ -297,6 +365,14 @@ SolveResult SolveLinearModel(LinearModel const& model, SolveTask const& task) {
   } catch (CoinError const& error) {
     throw Failure(VORQ_INTERNAL, "The engine Clp failed: " + error.message());
   }
+}
+
+SolveStatus ProvedStatus(LinearModel const& relaxation, SolveTask const& task) {
+  Basis const noBasis;
+  std::vector<double> const noValues;
+  Log quiet;
+  return SolveLinearModel(relaxation, {task.data, task.parameters, noBasis, noValues, task.starts, task.stop, quiet})
+      .lpStatus;
 }
 
 SolveResult SolveWithoutElements(LinearModel const& model, SolveTask const& task) {

@@ -18,6 +18,9 @@ class ClpEngine : public Engine {
 // the problem has. The result is about the problem's own rows and columns.
 SolveResult SolveLinearModel(LinearModel const& model, SolveTask const& task);
 
+// What is proved of the relaxation of the task's problem, quietly.
+SolveStatus ProvedStatus(LinearModel const& relaxation, SolveTask const& task);
+
 // As SolveLinearModel where there is not a single coefficient: each column goes to its best bound.
 SolveResult SolveWithoutElements(LinearModel const& model, SolveTask const& task);
 

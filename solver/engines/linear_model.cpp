@@ -95,6 +95,7 @@ void LinearModel::AddRow(std::span<LinearTerm const> terms, double low, double u
     }
   }
   merged.resize(kept);
+  std::erase_if(merged, [](LinearTerm const& term) { return IsNothing(term.value); });
   added_.push_back(std::move(merged));
   rowLower.push_back(ToEngine(low));
   rowUpper.push_back(ToEngine(up));
@@ -114,6 +115,7 @@ CoinPackedMatrix LinearModel::Matrix() const {
   for (std::size_t col = begins.size(); col < starts.size(); ++col) starts[col] = starts[col - 1];
   CoinPackedMatrix result(true, rows, data_->columns.Count(), starts.back(), matrix.ColValues().data(),
                           matrix.ColIndices().data(), starts.data(), nullptr);
+  if (std::ranges::any_of(matrix.ColValues(), IsNothing)) result.compress(kLeast);
   result.setDimensions(rows, ColCount());
   if (added_.empty()) return result;
 

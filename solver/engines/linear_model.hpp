@@ -36,6 +36,20 @@ class LinearModel {
   int RowCount() const { return static_cast<int>(rowLower.size()); }
   std::size_t ElementCount() const;
 
+  // Calls `visit(column, coefficient)` for each element of a row.
+  template <typename Visit>
+  void VisitRow(int row, Visit&& visit) const {
+    int const own = data_->rows.Count();
+    if (row >= own) {
+      for (auto const& term : added_[static_cast<std::size_t>(row - own)]) visit(term.col, term.value);
+      return;
+    }
+    auto const view = data_->rows.matrix.Row(row);
+    for (std::size_t k = 0; k < view.indices.size(); ++k) {
+      if (!IsNothing(view.values[k])) visit(view.indices[k], view.values[k]);
+    }
+  }
+
   // Loads the model into an empty simplex engine.
   void Load(ClpSimplex& simplex) const;
 
@@ -47,6 +61,10 @@ class LinearModel {
   double sign = 1.0;  // of the problem's objective against `cost`
 
  private:
+  // Elements so small only trouble the engines: they are left out.
+  static constexpr double kLeast = 1e-15;
+  static bool IsNothing(double value) { return value > -kLeast && value < kLeast; }
+
   void AddSideRows(SideRows const& side);
 
   ProblemData const* data_;

@@ -1,6 +1,7 @@
 // The relaxation of a search tree over Clp.
 #include "solver/engines/tree_relaxation.hpp"
 
+#include <ClpSimplex.hpp>
 #include <CoinPackedVector.hpp>
 #include <OsiCuts.hpp>
 #include <algorithm>
@@ -45,17 +46,10 @@ TreeRelaxation::Outcome TreeRelaxation::Read() {
 
 TreeRelaxation::Outcome TreeRelaxation::Solve() {
   bool const isWarm = isSolved_;
-  if (isWarm) {
-    solver_.resolve();
-  } else {
-    SolveAfresh();
-  }
-  auto outcome = Read();
+  if (isWarm) solver_.resolve();
+  auto outcome = isWarm ? Read() : SolveAfresh();
   auto const isLost = [&] { return outcome == Outcome::kFailed || outcome == Outcome::kUnbounded; };
-  if (isWarm && isLost()) {
-    SolveAfresh();
-    outcome = Read();
-  }
+  if (isWarm && isLost()) outcome = SolveAfresh();
   if (isLost()) isSolved_ = false;
   if (outcome != Outcome::kOptimal) return outcome;
   isSolved_ = true;
@@ -66,7 +60,7 @@ TreeRelaxation::Outcome TreeRelaxation::Solve() {
 
 // From the slack basis. From where an unbounded or failed solve ended, the engine can call feasible models infeasible
 // and points optimal that are not.
-void TreeRelaxation::SolveAfresh() {
+TreeRelaxation::Outcome TreeRelaxation::SolveAfresh() {
   CoinWarmStartBasis slack;
   slack.setSize(solver_.getNumCols(), solver_.getNumRows());
   for (int col = 0; col < solver_.getNumCols(); ++col) {
@@ -77,6 +71,19 @@ void TreeRelaxation::SolveAfresh() {
   }
   solver_.setWarmStart(&slack);
   solver_.initialSolve();
+  auto const outcome = Read();
+  if (outcome != Outcome::kInfeasible) return outcome;
+  // Of some models with infinite bounds that is wrong; the plain primal method says what they are.
+  ClpSimplex second(*solver_.getModelPtr());
+  second.createStatus();
+  second.primal();
+  iterations_ += second.numberIterations();
+  if (second.isProvenDualInfeasible()) return Outcome::kUnbounded;
+  if (!second.isProvenOptimal()) return outcome;
+  std::unique_ptr<CoinWarmStartBasis> const basis(second.getBasis());
+  solver_.setWarmStart(basis.get());
+  solver_.resolve();
+  return Read();
 }
 
 void TreeRelaxation::BeginTrials(int iterations) {

@@ -81,7 +81,7 @@ class TreeRelaxation {
     int idle = 0;
   };
 
-  void SolveAfresh();
+  Outcome SolveAfresh();
   Outcome Read();
 
   SolveTask const& task_;

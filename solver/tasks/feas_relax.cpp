@@ -38,7 +38,12 @@ bool HasSecondStep(RelaxMode mode) {
 void Normalise(std::vector<double>& penalties, char const* what, double infinity) {
   for (std::size_t k = 0; k < penalties.size(); ++k) {
     if (!(penalties[k] >= 0.0)) Refuse("The penalty ", penalties[k], " of entry ", k, " of '", what, "' is negative");
-    if (penalties[k] >= infinity) penalties[k] = kInfinity;
+    if (penalties[k] >= infinity) {
+      penalties[k] = kInfinity;
+    } else if (penalties[k] >= kTooGreat) {
+      Refuse("The penalty ", penalties[k], " of entry ", k, " of '", what,
+             "' is too great to calculate with, and below ", infinity, ", from which on a side holds");
+    }
   }
 }
 
@@ -52,18 +57,20 @@ Engine const& RequireEngine(Relaxation const& relaxation, RelaxMode mode) {
   return *engine;
 }
 
-// Takes over what a step found; false where it ended without a solution.
+// Takes over what a step found; false where it ended without a solution. What a former step found stays then, its
+// status included.
 bool Take(Problem& problem, Relaxation const& relaxation, SolveResult const& step) {
   auto& result = problem.result;
   result.isMip = Classify(problem.data).IsDiscrete();
-  (result.isMip ? result.mipStatus : result.lpStatus) = StatusOf(step);
   result.engine = step.engine;
   result.simplexIterations += step.simplexIterations;
   result.barrierIterations += step.barrierIterations;
   result.nodes += step.nodes;
   auto const& values = ValuesOf(step);
-  if (values.empty()) return false;
   auto& relaxed = result.relaxed;
+  if (values.empty() && relaxed.available) return false;
+  (result.isMip ? result.mipStatus : result.lpStatus) = StatusOf(step);
+  if (values.empty()) return false;
   relaxed.available = true;
   relaxed.values.assign(values.begin(), values.begin() + problem.data.columns.Count());
   relaxed.slacks = Slacks(problem.data, relaxed.values);
@@ -113,7 +120,11 @@ void OptimiseWithin(Problem& problem, Relaxation& relaxation, RelaxMode mode, St
     problem.log.Line("The objective is unbounded among the least violations: one of them is kept");
     return;
   }
-  if (Take(problem, relaxation, step)) values = ValuesOf(step);
+  if (Take(problem, relaxation, step)) {
+    values = ValuesOf(step);
+  } else {
+    problem.log.Line(Text("The objective was not optimised (", StatusText(StatusOf(step)), "): the first step stays"));
+  }
 }
 
 }  // namespace

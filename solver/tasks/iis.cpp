@@ -69,13 +69,17 @@ Found FindSet(Problem& problem, StopSignal& stop) {
   auto const cause = FindPlainCause(problem.data, problem.parameters);
   if (!cause.members.empty()) {
     problem.log.Line("A plain cause: " + cause.text);
+    // Lazy constraints are members of no set, and beside them fewer members may do.
+    if (problem.data.lazyConstraints.Count() > 0) return FilterPart(problem, cause.members, stop);
     return {cause.members, true};
   }
   Members members = AllMembers(problem.data);
   auto const all = members.size();
   DeletionFilter judge(problem.data, problem, stop);
-  // A search that took long need not be done again.
-  bool const isProved = problem.result.isMip && problem.result.mipStatus == SolveStatus::kInfeasible;
+  // A search that took long need not be done again, unless rows took part that no set has.
+  auto const& result = problem.result;
+  bool const isProved = result.isMip && result.mipStatus == SolveStatus::kInfeasible &&
+                        !problem.callbackSession.Wants(-1) && problem.data.userCuts.Count() == 0;
   switch (isProved ? DeletionFilter::Verdict::kInfeasible : judge.Judge(members)) {
     case DeletionFilter::Verdict::kFeasible: Refuse("There is no IIS: the problem is feasible");
     case DeletionFilter::Verdict::kUnknown: RefuseUnproved(stop);

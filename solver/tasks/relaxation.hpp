@@ -36,7 +36,8 @@ class Relaxation {
  private:
   bool Counts() const { return mode_ == RelaxMode::kCount || mode_ == RelaxMode::kCountThenObjective; }
   bool Squares() const { return mode_ == RelaxMode::kSquares || mode_ == RelaxMode::kSquaresThenObjective; }
-  bool MayRelax(double penalty, double bound) const { return penalty < kInfinity && std::abs(bound) < kInfinity; }
+  // A side so far out stays: nobody can calculate with what it is violated by.
+  bool MayRelax(double penalty, double bound) const { return penalty < kInfinity && std::abs(bound) < 1e15; }
   void RelaxRow(int row);
   void RelaxColumn(int col);
   void AddSide(RelaxedSide side, int row, std::string const& name, double most);

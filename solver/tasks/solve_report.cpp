@@ -127,7 +127,10 @@ void LogSummary(Problem& problem) {
   if (hasSolution) {
     log.Print("  Objective    %.10e", result.isMip ? result.mipObjective : result.lpObjective);
   }
-  if (result.isMip && std::abs(result.bestBound) < kInfinity) log.Print("  Bound        %.10e", result.bestBound);
+  bool const hasNoBound = status == SolveStatus::kUnbounded || status == SolveStatus::kInfeasible ||
+                          status == SolveStatus::kInfeasibleOrUnbounded;
+  if (result.isMip && !hasNoBound && std::abs(result.bestBound) < kInfinity)
+    log.Print("  Bound        %.10e", result.bestBound);
   if (result.isMip && hasSolution && result.bestGap < kInfinity)
     log.Print("  Gap          %.4f%%", 100.0 * result.bestGap);
   if (hasSolution) {

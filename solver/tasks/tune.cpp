@@ -39,7 +39,7 @@ std::vector<TuneChoice> StandardChoices(ProblemClass const& what) {
             {"StrongBranching", {"-1", "0"}},
             {"Presolve", {"-1", "0"}}};
   }
-  return {{"LpMethod", {"0", "1", "2"}}, {"Presolve", {"-1", "0"}}, {"Scaling", {"-1", "0"}}};
+  return {{"LpMethod", {"0", "1"}}, {"Presolve", {"-1", "0"}}, {"Scaling", {"-1", "0"}}};
 }
 
 std::string TextOf(Settings const& settings) {

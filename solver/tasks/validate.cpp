@@ -5,6 +5,7 @@
 #include <cmath>
 #include <span>
 
+#include "solver/engines/problem_class.hpp"
 #include "solver/parameters/parameter_set.hpp"
 #include "solver/problem/failure.hpp"
 
@@ -21,6 +22,11 @@ void RequireFinite(double value, char const* what, std::string const& owner) {
   if (!std::isfinite(value) || std::abs(value) >= kInfinity) Refuse(owner, ": ", what, " is ", value);
 }
 
+void RequireUsable(double value, char const* what, std::string const& owner) {
+  RequireFinite(value, what, owner);
+  if (std::abs(value) >= kTooGreat) Refuse(owner, ": ", what, " is ", value, ", too great to calculate with");
+}
+
 void RequireNumber(double value, char const* what, std::string const& owner) {
   if (std::isnan(value)) Refuse(owner, ": ", what, " is not a number");
 }
@@ -30,12 +36,12 @@ void ValidateRows(SparseMatrix const& matrix, std::span<double const> lower, std
   for (int row = 0; row < static_cast<int>(lower.size()); ++row) {
     bool isFit = !std::isnan(lower[row]) && !std::isnan(upper[row]);
     auto const view = matrix.Row(row);
-    for (double const value : view.values) isFit = isFit && std::abs(value) < kInfinity;
+    for (double const value : view.values) isFit = isFit && std::abs(value) < kTooGreat;
     if (isFit) continue;
     auto const owner = Called(kind, names, row);
     RequireNumber(lower[row], "its lower bound", owner);
     RequireNumber(upper[row], "its upper bound", owner);
-    for (double const value : view.values) RequireFinite(value, "a coefficient", owner);
+    for (double const value : view.values) RequireUsable(value, "a coefficient", owner);
   }
 }
 
@@ -63,7 +69,7 @@ void ValidateDiscrete(ProblemData const& data) {
     RequireFinite(indicator.rhs, "its right side", owner);
     for (auto const& term : indicator.terms) {
       RequireColumn(term.col, data, owner);
-      RequireFinite(term.value, "a coefficient", owner);
+      RequireUsable(term.value, "a coefficient", owner);
     }
   }
 }
@@ -75,11 +81,11 @@ void Validate(ProblemData const& data) {
   RequireFinite(data.objective.constant, "the constant", "Objective");
   for (int col = 0; col < columns.Count(); ++col) {
     double const bounds = columns.lower[col] + columns.upper[col];
-    if (!std::isnan(bounds) && std::abs(columns.objective[col]) < kInfinity) continue;
+    if (!std::isnan(bounds) && std::abs(columns.objective[col]) < kTooGreat) continue;
     auto const owner = Called("Column", columns.names, col);
     RequireNumber(columns.lower[col], "its lower bound", owner);
     RequireNumber(columns.upper[col], "its upper bound", owner);
-    RequireFinite(columns.objective[col], "its objective coefficient", owner);
+    RequireUsable(columns.objective[col], "its objective coefficient", owner);
   }
   ValidateRows(data.rows.matrix, data.rows.lower, data.rows.upper, data.rows.names, "Row");
   ValidateRows(data.lazyConstraints.matrix, data.lazyConstraints.lower, data.lazyConstraints.upper,
@@ -130,8 +136,13 @@ std::string PlainInfeasibility(ProblemData const& data, ParameterSet const& para
   }
   auto text = CrossingRow(data.rows.matrix, data.rows.lower, data.rows.upper, data.rows.names, "Row", tolerance);
   if (!text.empty()) return text;
-  auto const& lazy = data.lazyConstraints;
-  return CrossingRow(lazy.matrix, lazy.lower, lazy.upper, lazy.names, "Lazy constraint", tolerance);
+  auto const sideRows = [&](SideRows const& side, char const* kind) {
+    return CrossingRow(side.matrix, side.lower, side.upper, side.names, kind, tolerance);
+  };
+  text = sideRows(data.lazyConstraints, "Lazy constraint");
+  // User cuts are cuts of MIPs only.
+  bool const hasCuts = !relaxed && Classify(data).IsDiscrete();
+  return text.empty() && hasCuts ? sideRows(data.userCuts, "User cut") : text;
 }
 
 }  // namespace vorqsolver

@@ -9,6 +9,9 @@ namespace vorqsolver {
 
 class ParameterSet;
 
+// The engines calculate with coefficients below this.
+inline constexpr double kTooGreat = 1e20;
+
 // An item as messages call it: "Row 'c1'", or "Row 4" where it has no name; `kind` is the first word.
 std::string Called(char const* kind, NameList const& names, int index);
 

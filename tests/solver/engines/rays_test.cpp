@@ -87,25 +87,27 @@ class VerificationTest : public testing::Test {
     data.rows.upper = {kInf, 3.0};
   }
 
+  vorqsolver::LinearModel Relaxation() const { return {data, false}; }
+
   vorqsolver::ProblemData data;
 };
 
 TEST_F(VerificationTest, ProofPassesInEitherSignAndIsScaled) {
-  EXPECT_THAT(vorqsolver::VerifiedFarkasRay(data, std::vector<double>{5.0, -5.0}), AreClose({1.0, -1.0}));
-  EXPECT_THAT(vorqsolver::VerifiedFarkasRay(data, std::vector<double>{-0.5, 0.5}), AreClose({1.0, -1.0}));
+  EXPECT_THAT(vorqsolver::VerifiedFarkasRay(Relaxation(), std::vector<double>{5.0, -5.0}), AreClose({1.0, -1.0}));
+  EXPECT_THAT(vorqsolver::VerifiedFarkasRay(Relaxation(), std::vector<double>{-0.5, 0.5}), AreClose({1.0, -1.0}));
 }
 
 TEST_F(VerificationTest, WhatProvesNothingIsDropped) {
-  EXPECT_THAT(vorqsolver::VerifiedFarkasRay(data, std::vector<double>{1.0, 0.0}), IsEmpty());
-  EXPECT_THAT(vorqsolver::VerifiedFarkasRay(data, std::vector<double>{0.0, 0.0}), IsEmpty());
-  EXPECT_THAT(vorqsolver::VerifiedFarkasRay(data, std::vector<double>{1.0, 1.0}), IsEmpty());
+  EXPECT_THAT(vorqsolver::VerifiedFarkasRay(Relaxation(), std::vector<double>{1.0, 0.0}), IsEmpty());
+  EXPECT_THAT(vorqsolver::VerifiedFarkasRay(Relaxation(), std::vector<double>{0.0, 0.0}), IsEmpty());
+  EXPECT_THAT(vorqsolver::VerifiedFarkasRay(Relaxation(), std::vector<double>{1.0, 1.0}), IsEmpty());
 }
 
 TEST_F(VerificationTest, DirectionAgainstARowIsNoRay) {
-  EXPECT_THAT(vorqsolver::VerifiedPrimalRay(data, std::vector<double>{1.0, 0.0}), IsEmpty());
+  EXPECT_THAT(vorqsolver::VerifiedPrimalRay(Relaxation(), std::vector<double>{1.0, 0.0}), IsEmpty());
   data.rows.upper[1] = kInf;
-  EXPECT_THAT(vorqsolver::VerifiedPrimalRay(data, std::vector<double>{-3.0, 0.0}), AreClose({1.0, 0.0}));
-  EXPECT_THAT(vorqsolver::VerifiedPrimalRay(data, std::vector<double>{0.0, 1.0}), IsEmpty());
+  EXPECT_THAT(vorqsolver::VerifiedPrimalRay(Relaxation(), std::vector<double>{-3.0, 0.0}), AreClose({1.0, 0.0}));
+  EXPECT_THAT(vorqsolver::VerifiedPrimalRay(Relaxation(), std::vector<double>{0.0, 1.0}), IsEmpty());
 }
 
 }  // namespace

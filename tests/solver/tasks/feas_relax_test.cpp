@@ -194,6 +194,31 @@ TEST_F(TwoRows, LoggingOffIsSilent) {
   EXPECT_THAT(lines, testing::IsEmpty());
 }
 
+TEST_F(FeasRelaxTest, SecondStepOverFreeColumnsKeepsTheStatusOfTheFirst) {
+  Col(1.0, -kInf, kInf);
+  Col(0.0, -kInf, kInf);
+  Row({0, 1}, {-3.0, -4.0}, 'L', -4.0);
+  Row({0, 1}, {3.0, 2.0}, 'L', -2.0);
+  Set("FeasRelaxMode", 1);
+  ASSERT_EQ(Relax(true, true), VORQ_OK);
+  EXPECT_EQ(Int("LpStatus"), kOptimal);
+  EXPECT_EQ(Dbl("FeasRelaxObj"), 0.0);
+}
+
+TEST_F(FeasRelaxTest, PenaltyTooGreatToCalculateWithIsRefused) {
+  Col(1.0, 0.0, 1.0);
+  Row({0}, {1.0}, 'G', 2.0);
+  double const penalty = 1e26;
+  std::string log;
+  auto const keep = [](char const* line, void* user) { *static_cast<std::string*>(user) += line; };
+  ASSERT_EQ(VORQ_SetLogCallback(prob, keep, &log), VORQ_OK);
+  ASSERT_EQ(VORQ_FeasRelax(prob, nullptr, nullptr, &penalty, nullptr), VORQ_INVALID);
+  EXPECT_EQ(
+      log,
+      "Error: The penalty 1e+26 of entry 0 of 'rowBnd' is too great to calculate with, and below 1e+30, from which "
+      "on a side holds");
+}
+
 TEST_F(FeasRelaxTest, NumberOfViolationsMayBeLessThanTheirSumTells) {
   // One row against three: the sum prefers none, the number prefers to break the one.
   Col(0.0, -10.0, 10.0);

@@ -6,6 +6,46 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
+// The set needs no more than the row beside the lazy constraint.
+TEST_F(IisTest, PlainCauseBesideLazyConstraintsIsFiltered) {
+  Col(1.0, -kInf, 4.0);
+  Row({0}, {2.0}, 'G', 12.0);
+  int const col = 0;
+  double const one = 1.0;
+  ASSERT_EQ(VORQ_AddLazyConstr(prob, 1, &col, &one, 'L', 5.0, 0.0, nullptr), VORQ_OK);
+  ASSERT_EQ(VORQ_ComputeIIS(prob), VORQ_OK);
+  EXPECT_EQ(MemberCount(), 1);
+  EXPECT_THAT(RowLower(), ElementsAre(1));
+  EXPECT_EQ(Int("IsMinIIS"), 1);
+}
+
+TEST_F(IisTest, ProblemThatOnlyAUserCutMadeInfeasibleHasNoSet) {
+  Col(1.0, 0.0, 1.0, 'B');
+  Col(1.0, 0.0, 1.0, 'B');
+  Row({0, 1}, {1.0, 1.0}, 'G', 1.0);
+  int const col = 0;
+  double const one = 1.0;
+  ASSERT_EQ(VORQ_AddUserCut(prob, 1, &col, &one, 'G', 2.0, 0.0, nullptr), VORQ_OK);
+  ASSERT_EQ(Solve(), kInfeasible);
+  EXPECT_EQ(VORQ_ComputeIIS(prob), VORQ_INVALID);
+}
+
+TEST_F(IisTest, ProblemThatOnlyACallbackMadeInfeasibleHasNoSet) {
+  Col(1.0, 0.0, 1.0, 'B');
+  Col(1.0, 0.0, 1.0, 'B');
+  Row({0, 1}, {1.0, 1.0}, 'G', 1.0);
+  auto const cutAll = [](VORQ_Prob*, VORQ_CallbackData* data, int, void*) {
+    int const col = 0;
+    double const one = 1.0;
+    return VORQ_AddCallbackLazyConstr(data, 1, &col, &one, 'G', 5.0);
+  };
+  int const contexts = VORQ_CONTEXT_RELAXATION | VORQ_CONTEXT_CANDIDATE;
+  ASSERT_EQ(VORQ_SetCallback(prob, cutAll, contexts, nullptr), VORQ_OK);
+  ASSERT_EQ(Solve(), kInfeasible);
+  ASSERT_EQ(VORQ_SetCallback(prob, nullptr, 0, nullptr), VORQ_OK);
+  EXPECT_EQ(VORQ_ComputeIIS(prob), VORQ_INVALID);
+}
+
 TEST_F(IisTest, CrossedBoundsOfAColumnAreBothMembers) {
   Col(1.0);
   Col(1.0, 5.0, 3.0);

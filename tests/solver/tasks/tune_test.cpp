@@ -191,7 +191,7 @@ TEST_F(TuneTest, LinearProblemIsTunedByItsMethods) {
   ListenToLog();
   ASSERT_EQ(VORQ_Tune(prob), VORQ_OK);
   for (char const* const set :
-       {"  LpMethod 0: time ", "  LpMethod 2: time ", "  Presolve 0: time ", "  Scaling 0: time "}) {
+       {"  LpMethod 0: time ", "  LpMethod 1: time ", "  Presolve 0: time ", "  Scaling 0: time "}) {
     EXPECT_THAT(lines, Contains(testing::StartsWith(set)));
   }
 }
