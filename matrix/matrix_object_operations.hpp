@@ -7,6 +7,20 @@
 
 namespace Vorq {
 
+// What an operation made of cells of `source`: where that is an array of its own, some of its cells may stand for none
+// of the source, and hold no item.
+template <class Cell, int M>
+NdArray<Cell, M> WithItems(NdArray<Cell, M> cells, SharedPtr<Cell> const& source) {
+  if constexpr (kIsItem<Cell>) {
+    if (cells.Store() != source) {
+      cells.ForEach([](Cell& cell) {
+        if (!cell.HasRecord()) cell = DefaultCell<Cell>();
+      });
+    }
+  }
+  return cells;
+}
+
 // The array's own default elements hold no item; those of a block can be used like any others.
 template <class Cell, int N>
 MatrixObject<Cell, N>::MatrixObject(NdArray<Cell, N> cells) : cells_(std::move(cells)) {
@@ -39,17 +53,17 @@ MatrixObject<Cell, N> MatrixObject<Cell, N>::WithoutCells(NDim<N> const& shape) 
 
 template <class Cell, int N>
 MatrixObject<Cell, 1> MatrixObject<Cell, N>::Reshape(NDim<1> const& shape) const {
-  return MatrixObject<Cell, 1>(cells_.Reshape(shape, DefaultCell<Cell>()));
+  return MatrixObject<Cell, 1>(WithItems(cells_.Reshape(shape), cells_.Store()));
 }
 
 template <class Cell, int N>
 MatrixObject<Cell, 2> MatrixObject<Cell, N>::Reshape(NDim<2> const& shape) const {
-  return MatrixObject<Cell, 2>(cells_.Reshape(shape, DefaultCell<Cell>()));
+  return MatrixObject<Cell, 2>(WithItems(cells_.Reshape(shape), cells_.Store()));
 }
 
 template <class Cell, int N>
 MatrixObject<Cell, 3> MatrixObject<Cell, N>::Reshape(NDim<3> const& shape) const {
-  return MatrixObject<Cell, 3>(cells_.Reshape(shape, DefaultCell<Cell>()));
+  return MatrixObject<Cell, 3>(WithItems(cells_.Reshape(shape), cells_.Store()));
 }
 
 template <class Cell, int N>
@@ -74,17 +88,17 @@ MatrixObject<Cell, N> MatrixObject<Cell, N>::Transpose() const {
 
 template <class Cell, int N>
 MatrixObject<Cell, N> MatrixObject<Cell, N>::View(Vorq::View const& view) const {
-  return MatrixObject(cells_.View(view, DefaultCell<Cell>()));
+  return MatrixObject(WithItems(cells_.View(view), cells_.Store()));
 }
 
 template <class Cell, int N>
 MatrixObject<Cell, 1> MatrixObject<Cell, N>::Pick(NdArray<int, 1> const& indices) const {
-  return MatrixObject<Cell, 1>(cells_.Pick(indices, DefaultCell<Cell>()));
+  return MatrixObject<Cell, 1>(WithItems(cells_.Pick(indices), cells_.Store()));
 }
 
 template <class Cell, int N>
 MatrixObject<Cell, 1> MatrixObject<Cell, N>::PickAt(NdArray<int, 2> const& coords) const {
-  return MatrixObject<Cell, 1>(cells_.PickAtScalars(coords, DefaultCell<Cell>()));
+  return MatrixObject<Cell, 1>(WithItems(cells_.PickAtScalars(coords), cells_.Store()));
 }
 
 template <class Cell, int N>
