@@ -9,24 +9,24 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <numeric>
 #include <optional>
 #include <utility>
 
 #include "solver/engines/branching.hpp"
 #include "solver/engines/cbc_setup.hpp"
 #include "solver/engines/clp_engine.hpp"
+#include "solver/engines/mip_starts.hpp"
 #include "solver/engines/search_solutions.hpp"
 #include "solver/engines/search_tree.hpp"
 #include "solver/engines/sub_search.hpp"
 #include "solver/problem/failure.hpp"
+#include "solver/tasks/check.hpp"
 
 namespace vorqsolver {
 
 namespace {
 
 constexpr double kNone = std::numeric_limits<double>::infinity();
-constexpr double kBox = 1e7;              // bounds put on a search that the relaxation alone does not bound
 constexpr std::size_t kRowsARound = 100;  // of the pool
 constexpr int kRootRounds = 50;           // of rows for points that are not integer
 constexpr int kTreeRounds = 5;
@@ -34,10 +34,23 @@ constexpr int kCutPasses = 20;
 constexpr std::size_t kCutsARound = 200;
 constexpr double kLeastGain = 1e-4;  // of the objective by a pass of cuts
 constexpr int kFirstNeighbourhood = 50;
+constexpr double kDistances[] = {1e7, 1e10};  // of points that stand for where a relaxation without an end leads
 
 using Outcome = TreeRelaxation::Outcome;
 
-class BranchAndCut {
+// What a verdict on a feasible start says against it.
+std::string CauseOf(Verdict verdict) {
+  switch (verdict) {
+    case Verdict::kAccepted: return {};
+    case Verdict::kRefused: return "no better than the best solution so far";
+    case Verdict::kUnsolved: return "not solved with its integers";
+    case Verdict::kCutOff:
+    case Verdict::kImprecise: break;
+  }
+  return "cut off by the callback";
+}
+
+class BranchAndCut : private StartTaker {
  public:
   explicit BranchAndCut(SolveTask const& task)
       : BranchAndCut(task, MipModel(task.data, task.parameters, LinearModel(task.data, LinearModel::NoSideRows())),
@@ -66,14 +79,19 @@ class BranchAndCut {
   enum class NodeEnd { kDone, kStopped };
 
   void AddToPool(SideRows const& rows, CutPool::Kind kind);
+  Outcome SolveProved(LinearModel const& model);
   bool SolveRoot();
-  void Bound();
-  void Unbound();
-  void TakeStarts();
+  std::string TakeAsIs(MipStart const& start) override;
+  std::string TakeCompleted(MipStart const& start) override;
+  double TakenObjective() const override { return solutions_.Incumbents().Best().objective; }
   void RunTree();
   bool IsAtLimit();
   NodeEnd Process(SearchNode& node);
   std::optional<NodeEnd> TakeIntegral(SearchNode& node);
+  std::optional<NodeEnd> Explore(SearchNode const& node);
+  SolveResult SearchForAny();
+  Verdict ShowFarAway(SearchNode const& node, std::vector<double> const& solution);
+  NodeEnd Lose(SearchNode const& node);
   bool AddViolated();
   bool Separate();
   bool AddCuts();
@@ -108,9 +126,8 @@ class BranchAndCut {
   double current_ = kNone;          // the bound of the node at work
   double lost_ = kNone;             // the best bound of nodes that the engine could not solve
   bool hasOpenIntegers_;
-  bool isBoxed_ = false;
-  std::vector<BoundChange> unboxed_;  // the bounds that the box took the place of
   bool isAtNodeLimit_ = false;
+  bool isUnbounded_ = false;
   int nodes_ = 0;
   int nextDive_ = 0;
   int nextNeighbourhood_ = kFirstNeighbourhood;
@@ -133,7 +150,11 @@ void BranchAndCut::AddToPool(SideRows const& rows, CutPool::Kind kind) {
 SolveResult BranchAndCut::Run() {
   bool const goesOn = SolveRoot();
   // A complete start counts also where a limit was met.
-  if (goesOn || task_.stop.Asked()) TakeStarts();
+  if (goesOn || task_.stop.Asked()) {
+    TakeStarts(task_, *this);
+  } else {
+    PassOverStarts(task_.starts, task_.log, "the relaxation settles the problem");
+  }
   if (!goesOn) return Finish();
   tree_.Push(SearchNode());
   RunTree();
@@ -141,31 +162,30 @@ SolveResult BranchAndCut::Run() {
   return Finish();
 }
 
+// Solves the relaxation, of which `model` has the same solutions. The engine's word that there are none is no proof.
+TreeRelaxation::Outcome BranchAndCut::SolveProved(LinearModel const& model) {
+  auto const outcome = relaxation_.Solve();
+  if (outcome != Outcome::kInfeasible && outcome != Outcome::kFailed) return outcome;
+  switch (ProvedStatus(model, task_)) {
+    case SolveStatus::kInfeasible: return Outcome::kInfeasible;
+    case SolveStatus::kUnbounded: return Outcome::kUnbounded;
+    default: return task_.stop.Asked() ? Outcome::kStopped : Outcome::kFailed;
+  }
+}
+
 // The first relaxation; false where it settles the problem.
 bool BranchAndCut::SolveRoot() {
-  auto outcome = relaxation_.Solve();
-  if (outcome == Outcome::kInfeasible) {
-    // The engine's word is no proof.
-    auto const proved = ProvedStatus(mip_.linear, task_);
-    if (proved == SolveStatus::kUnbounded) outcome = Outcome::kUnbounded;
-    if (proved == SolveStatus::kOptimal) outcome = Outcome::kFailed;
-  }
-  if (outcome == Outcome::kUnbounded && pool_.Size() > 0) {
+  auto outcome = SolveProved(mip_.linear);
+  if (outcome == Outcome::kUnbounded && relaxation_.AddWholePool()) {
     // Lazy constraints may bound it.
-    std::vector<int> all(static_cast<std::size_t>(pool_.Size()));
-    std::iota(all.begin(), all.end(), 0);
-    relaxation_.AddFromPool(all);
-    outcome = relaxation_.Solve();
-  }
-  if (outcome == Outcome::kUnbounded) {
-    task_.log.Line("The relaxation is unbounded or infeasible: searching within a box");
-    Bound();
-    outcome = relaxation_.Solve();
+    LinearModel whole = mip_.linear;
+    solutions_.AddRequiredRows(whole);
+    outcome = SolveProved(whole);
   }
   switch (outcome) {
     case Outcome::kStopped: result_.mipStatus = task_.stop.Reason(); return false;
     case Outcome::kInfeasible: result_.mipStatus = SolveStatus::kInfeasible; return false;
-    case Outcome::kUnbounded: result_.mipStatus = SolveStatus::kInfeasibleOrUnbounded; return false;
+    case Outcome::kUnbounded: task_.log.Line("The relaxation is unbounded or infeasible"); return true;
     case Outcome::kFailed: result_.mipStatus = SolveStatus::kNumerical; return false;
     case Outcome::kOptimal: break;
   }
@@ -175,58 +195,22 @@ bool BranchAndCut::SolveRoot() {
   return true;
 }
 
-// What is discrete, and rows to come, may bound what the relaxation does not. Within a wide box the search tells: a
-// best point on the box's border means unbounded.
-void BranchAndCut::Bound() {
-  isBoxed_ = true;
-  auto& linear = mip_.linear;
-  for (int col = 0; col < linear.ColCount(); ++col) {
-    double const lower = std::max(linear.lower[col], std::min(-kBox, linear.upper[col]));
-    double const upper = std::min(linear.upper[col], std::max(kBox, linear.lower[col]));
-    if (lower == linear.lower[col] && upper == linear.upper[col]) continue;
-    unboxed_.push_back({col, linear.lower[col], linear.upper[col]});
-    linear.lower[col] = lower;
-    linear.upper[col] = upper;
-    relaxation_.SetRootBounds(col, lower, upper);
-  }
+std::string BranchAndCut::TakeAsIs(MipStart const& start) {
+  auto const values = solutions_.Rounded(start.values);
+  auto const found = CheckSolution(task_.data, values);
+  if (!found.Holds(task_.parameters)) return "infeasible, " + found.Worst();
+  auto const verdict = solutions_.Judge(values, 'S');
+  solutions_.TakeOffers();
+  return CauseOf(verdict);
 }
 
-// Rows that came may bound the relaxation: where it stays off the box's border, the box is needed no more.
-void BranchAndCut::Unbound() {
-  if (std::ranges::any_of(relaxation_.Values(), [](double v) { return std::abs(v) >= 0.5 * kBox; })) return;
-  isBoxed_ = false;
-  for (auto const& [col, lower, upper] : unboxed_) {
-    mip_.linear.lower[col] = lower;
-    mip_.linear.upper[col] = upper;
-    relaxation_.SetRootBounds(col, lower, upper);
-  }
-}
-
-void BranchAndCut::TakeStarts() {
-  constexpr int kNodes = 200;
-  enum Mode { kRejectAll = 0, kFullOnly = 1, kNoRepair = 2 };
-  int const mode = task_.parameters.Int(IntParam::kMipStartMode);
-  int const limit = task_.parameters.Int(IntParam::kMipStartNodeLimit);
-  int number = 0;
-  for (auto const& start : task_.starts) {
-    ++number;
-    bool const isFull = std::ranges::find(start.values, VORQ_UNDEFINED) == start.values.end();
-    std::optional<std::vector<double>> values;
-    if (mode != kRejectAll && (isFull || mode != kFullOnly)) {
-      values = solutions_.Complete(start.values, limit < 0 ? kNodes : limit);
-      bool const isMended = isFull && values && *values != start.values;
-      if (isMended && (mode == kFullOnly || mode == kNoRepair)) values.reset();
-    }
-    auto verdict = values ? solutions_.Judge(*values, 'S') : Verdict::kRefused;
-    if (values && verdict != Verdict::kAccepted) verdict = solutions_.JudgeCompleted(*values, 'S');
-    solutions_.TakeOffers();
-    if (verdict == Verdict::kAccepted) {
-      task_.log.Print("MIP start %d: accepted, best objective so far %.9e", number,
-                      solutions_.Incumbents().Best().objective);
-    } else {
-      task_.log.Print("MIP start %d: rejected", number);
-    }
-  }
+std::string BranchAndCut::TakeCompleted(MipStart const& start) {
+  auto const values = solutions_.Complete(start.values, task_.parameters.Int(IntParam::kMipStartNodeLimit));
+  if (!values) return kNoSolutionFound;
+  auto verdict = solutions_.Judge(*values, 'S');
+  if (verdict != Verdict::kAccepted) verdict = solutions_.JudgeCompleted(*values, 'S');
+  solutions_.TakeOffers();
+  return CauseOf(verdict);
 }
 
 double BranchAndCut::LowerBound() const {
@@ -255,7 +239,7 @@ bool BranchAndCut::IsAtLimit() {
 }
 
 void BranchAndCut::RunTree() {
-  while ((next_ || !tree_.IsEmpty()) && !IsAtLimit()) {
+  while ((next_ || !tree_.IsEmpty()) && !isUnbounded_ && !IsAtLimit()) {
     SearchNode node = next_ ? std::move(*next_) : tree_.Pop();
     bool const goesOn = next_.has_value();
     next_.reset();
@@ -300,12 +284,13 @@ BranchAndCut::NodeEnd BranchAndCut::Process(SearchNode& node) {
     auto const outcome = relaxation_.Solve();
     if (outcome == Outcome::kStopped) return NodeEnd::kStopped;
     if (outcome == Outcome::kInfeasible) return NodeEnd::kDone;
-    if (outcome != Outcome::kOptimal) {
-      lost_ = std::min(lost_, node.bound);
-      return NodeEnd::kDone;
+    if (outcome == Outcome::kUnbounded) {
+      if (relaxation_.AddWholePool()) continue;
+      if (auto const end = Explore(node)) return *end;
+      continue;
     }
+    if (outcome != Outcome::kOptimal) return Lose(node);
     if (isFirst && std::isfinite(inherited)) branching_.Learn(node.origin, relaxation_.Objective() - inherited);
-    if (isRoot && isBoxed_) Unbound();
     node.bound = current_ = std::max(node.bound, relaxation_.Objective());
     if (node.bound >= solutions_.Cutoff()) return NodeEnd::kDone;
     bool const isIntegral = branching_.IsIntegral(relaxation_.Values()) && branching_.SetsHold(relaxation_.Values());
@@ -319,8 +304,7 @@ BranchAndCut::NodeEnd BranchAndCut::Process(SearchNode& node) {
       if (auto const end = TakeIntegral(node)) return *end;
       continue;
     }
-    // Cuts that follow from the bounds of the box would outlive it.
-    if (!isBoxed_ && cutPasses-- > 0 && AddCuts()) continue;
+    if (cutPasses-- > 0 && AddCuts()) continue;
     if (std::exchange(dives, false)) {
       Dive(node);
       relaxation_.MoveTo(node.changes);
@@ -352,8 +336,86 @@ std::optional<BranchAndCut::NodeEnd> BranchAndCut::TakeIntegral(SearchNode& node
   if (node.bound >= solutions_.Cutoff() - kRounding * std::max(1.0, std::abs(node.bound))) return NodeEnd::kDone;
   if (auto const choice = branching_.ChooseAmongIntegral(relaxation_)) return Split(node, *choice);
   // With all integers fixed, the linear rest has the last word; but it knows only one way to satisfy the sets.
-  if (verdict != Verdict::kAccepted && !mip_.sets.empty()) lost_ = std::min(lost_, node.bound);
+  bool const isOpen = verdict == Verdict::kUnsolved || (verdict != Verdict::kAccepted && !mip_.sets.empty());
+  return isOpen ? Lose(node) : NodeEnd::kDone;
+}
+
+// A node that cannot be solved: the search cannot end better than it.
+BranchAndCut::NodeEnd BranchAndCut::Lose(SearchNode const& node) {
+  lost_ = std::min(lost_, node.bound);
   return NodeEnd::kDone;
+}
+
+// A node whose relaxation has no end. Once the sets are settled, a mixed-integer problem is left, which is unbounded if
+// it has any solution at all, the data being rational (Meyer, "On the existence of optimal solutions to integer and
+// mixed-integer programming problems", Mathematical Programming 7, 1974); unless the callback has rows that bound it.
+// Nothing where the node is to be solved again.
+std::optional<BranchAndCut::NodeEnd> BranchAndCut::Explore(SearchNode const& node) {
+  if (auto const choice = branching_.ChooseOpenSet(relaxation_)) return Split(node, *choice);
+  for (double const size : kDistances) {
+    if (task_.callback == nullptr || relaxation_.SolveWithin(size) != Outcome::kOptimal) continue;
+    if (Separate()) return std::nullopt;
+  }
+  auto const found = SearchForAny();
+  if (task_.stop.Asked()) return NodeEnd::kStopped;
+  if (found.mipStatus == SolveStatus::kInfeasible) return NodeEnd::kDone;
+  if (found.mipValues.empty()) return Lose(node);
+  if (task_.callback != nullptr) {
+    auto const verdict = ShowFarAway(node, found.mipValues);
+    if (task_.stop.Asked()) return NodeEnd::kStopped;
+    if (AddViolated()) return std::nullopt;
+    if (verdict != Verdict::kAccepted) return Lose(node);
+  }
+  isUnbounded_ = true;
+  return NodeEnd::kDone;
+}
+
+// Looks for a solution of the node at hand, whatever it costs.
+SolveResult BranchAndCut::SearchForAny() {
+  task_.log.Line("No end in sight: looking for any solution");
+  ProblemData withoutCosts = task_.data;
+  withoutCosts.objective = {};
+  std::ranges::fill(withoutCosts.columns.objective, 0.0);
+  MipModel model = mip_;
+  solutions_.AddRequiredRows(model.linear);
+  std::ranges::fill(model.linear.cost, 0.0);
+  for (int col = 0; col < model.linear.ColCount(); ++col) {
+    model.linear.lower[col] = relaxation_.Lower(col);
+    model.linear.upper[col] = relaxation_.Upper(col);
+  }
+  Basis const noBasis;
+  std::vector<double> const noValues;
+  std::vector<MipStart> const noStarts;
+  SolveTask const sub{withoutCosts, task_.parameters, noBasis, noValues, noStarts, task_.stop, task_.log};
+  auto found = BranchAndCut(sub, std::move(model), nodeLimit_).Run();
+  nodes_ += found.nodes;
+  isAtNodeLimit_ = found.mipStatus == SolveStatus::kNodeLimit;
+  return found;
+}
+
+// Judges the solution and, with its integers, points far away on the endless side. Accepted where the callback has seen
+// them and has nothing against them.
+Verdict BranchAndCut::ShowFarAway(SearchNode const& node, std::vector<double> const& solution) {
+  auto const refuses = [&](Verdict verdict) {
+    solutions_.TakeOffers();
+    return verdict == Verdict::kCutOff || verdict == Verdict::kImprecise || task_.stop.Asked();
+  };
+  auto verdict = solutions_.Judge(solution, '*');
+  if (refuses(verdict)) return verdict;
+  verdict = Verdict::kAccepted;
+  auto changes = node.changes;
+  for (int col = 0; col < task_.data.columns.Count(); ++col) {
+    if (mip_.isInteger[col]) changes.push_back({col, solution[col], solution[col]});
+  }
+  relaxation_.MoveTo(changes);
+  for (double const size : kDistances) {
+    if (relaxation_.SolveWithin(size) != Outcome::kOptimal) continue;
+    verdict = solutions_.Judge(relaxation_.Values(), '*');
+    if (refuses(verdict)) break;
+    verdict = Verdict::kAccepted;
+  }
+  relaxation_.MoveTo(node.changes);
+  return verdict;
 }
 
 bool BranchAndCut::AddCuts() {
@@ -471,7 +533,9 @@ void BranchAndCut::SearchNeighbourhood() {
 void BranchAndCut::Conclude() {
   auto const& incumbents = solutions_.Incumbents();
   bool const isDone = tree_.IsEmpty() && !next_;
-  if (task_.stop.Reason() != SolveStatus::kUnstarted) {
+  if (isUnbounded_) {
+    result_.mipStatus = SolveStatus::kUnbounded;
+  } else if (task_.stop.Reason() != SolveStatus::kUnstarted) {
     result_.mipStatus = task_.stop.Reason();
   } else if (isDone && lost_ >= solutions_.Cutoff()) {
     result_.mipStatus = incumbents.IsEmpty() ? SolveStatus::kInfeasible : SolveStatus::kOptimal;
@@ -483,21 +547,11 @@ void BranchAndCut::Conclude() {
 }
 
 SolveResult BranchAndCut::Finish() {
-  // Solutions may lie outside of the box.
-  if (isBoxed_ && result_.mipStatus == SolveStatus::kInfeasible) {
-    result_.mipStatus = SolveStatus::kInfeasibleOrUnbounded;
-  }
   result_.nodes = nodes_;
   result_.simplexIterations = relaxation_.Iterations();
+  if (isUnbounded_) return std::move(result_);
   auto const& incumbents = solutions_.Incumbents();
-  bool const isOptimal = result_.mipStatus == SolveStatus::kOptimal;
   if (!incumbents.IsEmpty()) {
-    auto const& best = incumbents.Best();
-    bool const touches = std::ranges::any_of(best.values, [](double v) { return std::abs(v) >= 0.5 * kBox; });
-    if (isBoxed_ && touches && isOptimal) {
-      result_.mipStatus = SolveStatus::kUnbounded;
-      return std::move(result_);
-    }
     auto lp = solutions_.FinalLp();
     result_.mipValues = lp.lp.values;
     result_.mipObjective = lp.lpObjective;
@@ -510,7 +564,7 @@ SolveResult BranchAndCut::Finish() {
   }
   double bound = progress_.Bound();
   if (!incumbents.IsEmpty()) bound = std::min(bound, EngineValue(result_.mipObjective));
-  bool const hasBound = std::abs(bound) < kInfinity && (!isBoxed_ || isOptimal);
+  bool const hasBound = std::abs(bound) < kInfinity;
   result_.bestBound = hasBound ? ProblemValue(bound) : -mip_.linear.sign * kInfinity;
   result_.bestGap =
       !incumbents.IsEmpty() && hasBound ? RelativeGap(result_.mipObjective, result_.bestBound) : kInfinity;

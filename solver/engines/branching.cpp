@@ -106,8 +106,17 @@ BranchChoice Branching::SplitColumn(TreeRelaxation const& relaxation, int col, d
 }
 
 // Of a set with nonzeros from `first` to `last` one side keeps what lies up to a place between, the other what follows.
-BranchChoice Branching::SplitSet(std::span<double const> values) const {
+BranchChoice Branching::SplitAt(MipModel::Set const& set, int first, int place, int last) {
   BranchChoice choice;
+  // A set of type 2 keeps the place itself on both sides.
+  int const shared = set.type == 2 ? 1 : 0;
+  place = std::clamp(place, first + shared, last - 1);
+  for (int k = place + 1; k < static_cast<int>(set.cols.size()); ++k) choice.down.push_back({set.cols[k], 0.0, 0.0});
+  for (int k = 0; k < place + 1 - shared; ++k) choice.up.push_back({set.cols[k], 0.0, 0.0});
+  return choice;
+}
+
+BranchChoice Branching::SplitSet(std::span<double const> values) const {
   auto const broken = std::ranges::find_if(mip_.sets, [&](MipModel::Set const& set) {
     return LastNonzero(set, values) - FirstNonzero(set, values) >= set.type;
   });
@@ -120,12 +129,19 @@ BranchChoice Branching::SplitSet(std::span<double const> values) const {
     weight += values[cols[place]] * place;
     sum += values[cols[place]];
   }
-  // A set of type 2 keeps the place itself on both sides.
-  int const shared = broken->type == 2 ? 1 : 0;
-  int const place = std::clamp(static_cast<int>(weight / sum), first + shared, last - 1);
-  for (int k = place + 1; k < static_cast<int>(cols.size()); ++k) choice.down.push_back({cols[k], 0.0, 0.0});
-  for (int k = 0; k < place + 1 - shared; ++k) choice.up.push_back({cols[k], 0.0, 0.0});
-  return choice;
+  return SplitAt(*broken, first, static_cast<int>(weight / sum), last);
+}
+
+std::optional<BranchChoice> Branching::ChooseOpenSet(TreeRelaxation const& relaxation) const {
+  auto const isOpen = [&](int col) { return relaxation.Upper(col) > 0.0; };
+  for (auto const& set : mip_.sets) {
+    auto const first = std::ranges::find_if(set.cols, isOpen);
+    auto const last = std::find_if(set.cols.rbegin(), set.cols.rend(), isOpen);
+    auto const from = static_cast<int>(first - set.cols.begin());
+    auto const to = static_cast<int>(set.cols.rend() - last) - 1;
+    if (to - from >= set.type) return SplitAt(set, from, (from + to) / 2, to);
+  }
+  return std::nullopt;
 }
 
 // Looks at both sides for some iterations; gives the score.

@@ -35,6 +35,9 @@ class Branching {
   // same afterwards. `cutoff` is the objective at which a node is of no use.
   BranchChoice Choose(TreeRelaxation& relaxation, double cutoff);
 
+  // A split of a set that the bounds leave open, whatever the point; none if they settle all sets.
+  std::optional<BranchChoice> ChooseOpenSet(TreeRelaxation const& relaxation) const;
+
   // A split of the integer columns that are still free where the point itself is integral; none if all are fixed.
   std::optional<BranchChoice> ChooseAmongIntegral(TreeRelaxation const& relaxation) const;
 
@@ -62,6 +65,7 @@ class Branching {
   BranchChoice SplitColumn(TreeRelaxation const& relaxation, int col, double value) const;
   BranchChoice SplitSet(std::span<double const> values) const;
   double Try(TreeRelaxation& relaxation, BranchChoice& choice, double cutoff);
+  static BranchChoice SplitAt(MipModel::Set const& set, int first, int place, int last);
   int FirstNonzero(MipModel::Set const& set, std::span<double const> values) const;
   int LastNonzero(MipModel::Set const& set, std::span<double const> values) const;
 

@@ -8,7 +8,6 @@
 #include <CbcTree.hpp>
 #include <CglPreProcess.hpp>
 #include <CoinError.hpp>
-#include <OsiClpSolverInterface.hpp>
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -18,9 +17,11 @@
 #include "solver/engines/cbc_setup.hpp"
 #include "solver/engines/clp_control.hpp"
 #include "solver/engines/clp_engine.hpp"
+#include "solver/engines/clp_interface.hpp"
 #include "solver/engines/mip_incumbents.hpp"
 #include "solver/engines/mip_model.hpp"
 #include "solver/engines/mip_progress.hpp"
+#include "solver/engines/mip_starts.hpp"
 #include "solver/engines/osi_setup.hpp"
 #include "solver/problem/failure.hpp"
 #include "solver/tasks/check.hpp"
@@ -29,12 +30,11 @@ namespace vorqsolver {
 
 namespace {
 
-constexpr int kPreprocessPasses = 10;
-constexpr int kNoNewIntegers = 1000000;  // continuous columns stay so: the engine makes some integer that are not
-constexpr double kSame = 1e-5;           // relative
-constexpr double kUrgentSeconds = 0.5;   // for the way back to the problem's columns, once the search was stopped
+constexpr int kOnePass = 1000000;       // of preprocessing; more make columns integer that are not
+constexpr int kNoDualArguments = 4096;  // these fix integer columns where only continuous ones could give way
+constexpr double kSame = 1e-5;          // relative
+constexpr double kUrgentSeconds = 0.5;  // for the way back to the problem's columns, once the search was stopped
 constexpr double kPatientSeconds = 10.0;
-constexpr double kBox = 1e7;  // bounds put on a search that the relaxation alone does not bound
 
 // Cbc's own numbers.
 enum CbcOutcome { kFinished = 0, kNumericalTrouble = 2 };
@@ -73,18 +73,7 @@ class SearchWatch : public CbcEventHandler {
   std::vector<std::vector<double>>* found_;
 };
 
-std::string WorstViolation(Violations const& found) {
-  std::pair<double, char const*> const kinds[] = {{found.bounds, "a bound"},
-                                                  {found.rows, "a row"},
-                                                  {found.integrality, "integrality"},
-                                                  {found.discrete, "an SOS, indicator or semicontinuity"}};
-  auto const& [amount, kind] = *std::ranges::max_element(kinds, {}, &std::pair<double, char const*>::first);
-  char text[40];
-  std::snprintf(text, sizeof text, " violated by %.3g", amount);
-  return std::string(kind) + text;
-}
-
-class CbcSolver {
+class CbcSolver : private StartTaker {
  public:
   explicit CbcSolver(SolveTask const& task)
       : task_(task), mip_(task.data, task.parameters), incumbents_(task), progress_(task) {
@@ -98,24 +87,25 @@ class CbcSolver {
   SolveResult Run();
 
  private:
-  void Control(OsiClpSolverInterface& solver) {
-    vorqsolver::Control(solver, silent_, IterationWatch(task_.stop, tick_));
-  }
-  void Load(OsiClpSolverInterface& solver);
+  void Control(ClpInterface& solver) { vorqsolver::Control(solver, silent_, IterationWatch(task_.stop, tick_)); }
+  void Load(ClpInterface& solver);
   bool SolveRoot();
-  bool FinishUnboundedRoot();
-  void TakeStarts();
-  bool TakeStart(MipStart const& start, std::string& outcome);
+  bool GiveUpUnboundedRoot();
+  std::string TakeAsIs(MipStart const& start) override;
+  std::string TakeCompleted(MipStart const& start) override;
+  double TakenObjective() const override { return incumbents_.LastObjective(); }
   bool CompletePartial(MipStart const& start);
-  std::unique_ptr<OsiClpSolverInterface> Preprocess();
+  std::unique_ptr<ClpInterface> Preprocess();
   bool IsConclusive() const;
   void SearchWhole();
   bool MayPreprocess() const;
-  void Search(OsiClpSolverInterface& reduced);
-  void OfferStart(CbcModel& model, OsiClpSolverInterface const& reduced);
+  void Search(ClpInterface& reduced);
+  bool IsAsGoodAsFound() const;
+  void RaiseBound();
+  void OfferStart(CbcModel& model, ClpInterface const& reduced);
   void Conclude(CbcModel const& model);
   void CarryBack(std::vector<double> const& reducedValues);
-  bool KeepFinal(std::vector<double> const& reducedValues, OsiClpSolverInterface const& reduced, double seconds);
+  bool KeepFinal(std::vector<double> const& reducedValues, ClpInterface const& reduced, double seconds);
   SolveResult Finish();
 
   double EngineValue(double objective) const { return mip_.linear.sign * (objective - task_.data.objective.constant); }
@@ -129,15 +119,14 @@ class CbcSolver {
   MipProgress progress_;
   SilentHandler silent_;
   IterationWatch::Report tick_;
-  OsiClpSolverInterface solver_;
+  ClpInterface solver_;
   std::unique_ptr<CglPreProcess> preprocess_;
   std::vector<int> originalCols_;  // of the reduced model; empty where nothing was reduced
   double searchObjective_ = -std::numeric_limits<double>::infinity();  // of the best point that the search found
   SolveResult result_;
-  bool isBoxed_ = false;
 };
 
-void CbcSolver::Load(OsiClpSolverInterface& solver) {
+void CbcSolver::Load(ClpInterface& solver) {
   Control(solver);
   LoadRelaxation(solver, mip_.linear, mip_.isInteger, task_.parameters);
 }
@@ -146,7 +135,12 @@ SolveResult CbcSolver::Run() {
   Load(solver_);
   bool const goesOn = SolveRoot();
   // A complete start counts also where a limit was met.
-  if (goesOn || task_.stop.Asked()) TakeStarts();
+  if (goesOn || task_.stop.Asked()) {
+    TakeStarts(task_, *this);
+    if (!incumbents_.IsEmpty()) progress_.Incumbent(EngineValue(incumbents_.Best().objective), 'S');
+  } else if (result_.mipStatus != SolveStatus::kInfeasibleOrUnbounded) {
+    PassOverStarts(task_.starts, task_.log, "the relaxation settles the problem");
+  }
   if (!goesOn) return Finish();
   if (task_.stop.Asked()) {
     result_.mipStatus = task_.stop.Reason();
@@ -155,6 +149,7 @@ SolveResult CbcSolver::Run() {
   auto reduced = Preprocess();
   if (reduced) Search(*reduced);
   if (preprocess_ && !IsConclusive()) SearchWhole();
+  if (result_.mipStatus == SolveStatus::kOptimal && !IsAsGoodAsFound()) result_.mipStatus = SolveStatus::kImprecise;
   return Finish();
 }
 
@@ -164,6 +159,11 @@ bool CbcSolver::IsConclusive() const {
   bool const isOptimal = result_.mipStatus == SolveStatus::kOptimal;
   bool const isDoubtful = result_.mipStatus == SolveStatus::kInfeasible || result_.mipStatus == SolveStatus::kImprecise;
   if (!isOptimal || incumbents_.IsEmpty()) return !isOptimal && !isDoubtful;
+  return IsAsGoodAsFound();
+}
+
+// Whether a solution of the problem is as good as what the search found.
+bool CbcSolver::IsAsGoodAsFound() const {
   double const best = EngineValue(incumbents_.Best().objective);
   double const room = std::max(kSame, task_.parameters.Dbl(DblParam::kRelGap)) * std::max(1.0, std::abs(best));
   return best <= searchObjective_ + room;
@@ -173,7 +173,7 @@ void CbcSolver::SearchWhole() {
   task_.log.Line("Presolve led to no solution of the problem: searching without it");
   preprocess_.reset();
   originalCols_.clear();
-  OsiClpSolverInterface whole;
+  ClpInterface whole;
   Load(whole);
   Search(whole);
 }
@@ -186,19 +186,19 @@ bool CbcSolver::SolveRoot() {
     result_.mipStatus = task_.stop.Reason();
     return false;
   }
-  if (solver_.isProvenPrimalInfeasible()) {
+  if (!solver_.isProvenOptimal() && !solver_.isProvenDualInfeasible()) {
     // The engine's word is no proof; where it is wrong, its other method goes on.
     auto const proved = ProvedStatus(mip_.linear, task_);
     if (proved == SolveStatus::kInfeasible) {
       result_.mipStatus = SolveStatus::kInfeasible;
       return false;
     }
-    if (proved == SolveStatus::kUnbounded) return FinishUnboundedRoot();
+    if (proved == SolveStatus::kUnbounded) return GiveUpUnboundedRoot();
     solver_.setHintParam(OsiDoDualInInitial, false, OsiHintTry);
     solver_.initialSolve();
   }
   bool const isFar = solver_.isProvenOptimal() && IsFarAway(*solver_.getModelPtr());
-  if (isFar || solver_.isProvenDualInfeasible()) return FinishUnboundedRoot();
+  if (isFar || solver_.isProvenDualInfeasible()) return GiveUpUnboundedRoot();
   if (!solver_.isProvenOptimal()) {
     result_.mipStatus = SolveStatus::kNumerical;
     return false;
@@ -209,76 +209,33 @@ bool CbcSolver::SolveRoot() {
   return true;
 }
 
-// What is discrete may bound what the relaxation does not. Within a wide box the search tells: a best point on the
-// box's border means unbounded.
-bool CbcSolver::FinishUnboundedRoot() {
-  task_.log.Line("The relaxation is unbounded or infeasible: searching within a box");
-  isBoxed_ = true;
-  for (int col = 0; col < mip_.linear.ColCount(); ++col) {
-    solver_.setColLower(col, std::max(solver_.getColLower()[col], std::min(-kBox, solver_.getColUpper()[col])));
-    solver_.setColUpper(col, std::min(solver_.getColUpper()[col], std::max(kBox, solver_.getColLower()[col])));
-  }
-  solver_.initialSolve();
-  if (task_.stop.Reason() != SolveStatus::kUnstarted) {
-    result_.mipStatus = task_.stop.Reason();
-    return false;
-  }
-  if (solver_.isProvenOptimal()) return true;
-  result_.mipStatus =
-      solver_.isProvenPrimalInfeasible() ? SolveStatus::kInfeasible : SolveStatus::kInfeasibleOrUnbounded;
+// What is discrete may bound what the relaxation does not: a question for another engine.
+bool CbcSolver::GiveUpUnboundedRoot() {
+  result_.mipStatus = SolveStatus::kInfeasibleOrUnbounded;
   return false;
 }
 
-void CbcSolver::TakeStarts() {
-  int number = 0;
-  for (auto const& start : task_.starts) {
-    ++number;
-    std::string outcome;
-    if (TakeStart(start, outcome)) {
-      task_.log.Print("MIP start %d: %s, objective %.9e", number, outcome.c_str(), incumbents_.LastObjective());
-      progress_.Incumbent(EngineValue(incumbents_.Best().objective), 'S');
-    } else {
-      task_.log.Print("MIP start %d: rejected, %s", number, outcome.c_str());
-    }
-  }
+std::string CbcSolver::TakeAsIs(MipStart const& start) {
+  if (!incumbents_.KeepAsIs(start.values)) return "infeasible, " + CheckSolution(task_.data, start.values).Worst();
+  return {};
 }
 
-// `outcome` tells what was done to the start, or why it gave no solution.
-bool CbcSolver::TakeStart(MipStart const& start, std::string& outcome) {
-  enum Mode { kRejectAll = 0, kFullOnly = 1, kNoRepair = 2 };
-  int const mode = task_.parameters.Int(IntParam::kMipStartMode);
-  auto const& columns = task_.data.columns;
-  int open = 0;
-  bool hasIntegers = true;
-  for (int col = 0; col < columns.Count(); ++col) {
-    bool const isOpen = start.values[col] == VORQ_UNDEFINED;
-    open += isOpen ? 1 : 0;
-    hasIntegers &= !isOpen || columns.type[col] == 'C';
-  }
-  bool const isFull = open == 0;
-  outcome = "as MipStartMode says";
-  if (mode == kRejectAll) return false;
-  outcome = "accepted";
-  if (isFull && incumbents_.KeepAsIs(start.values)) return true;
-  outcome = isFull ? Text("infeasible, ", WorstViolation(CheckSolution(task_.data, start.values)))
-                   : Text("incomplete, ", open, " columns are open");
-  if (mode == kFullOnly || (mode == kNoRepair && isFull)) return false;
-  bool const isLinearRest = hasIntegers && task_.data.soss.empty();
+std::string CbcSolver::TakeCompleted(MipStart const& start) {
   bool isFound = false;
-  if (isLinearRest) {
+  if (GivesAllDiscrete(task_.data, start.values)) {
     std::vector<double> values = start.values;
     std::ranges::replace(values, VORQ_UNDEFINED, 0.0);
     isFound = incumbents_.Complete(values, false);
   } else {
     isFound = CompletePartial(start);
   }
-  outcome = isFound ? (isFull ? "repaired" : "completed") : outcome + ", and no solution with its integers was found";
-  return isFound;
+  if (!isFound) return kNoSolutionFound;
+  return {};
 }
 
 // Fixes the integer columns that the start gives and searches the rest for a while.
 bool CbcSolver::CompletePartial(MipStart const& start) {
-  OsiClpSolverInterface fixed(solver_);
+  ClpInterface fixed(solver_);
   Control(fixed);
   for (int col = 0; col < task_.data.columns.Count(); ++col) {
     if (start.values[col] == VORQ_UNDEFINED || !mip_.isInteger[col]) continue;
@@ -291,12 +248,11 @@ bool CbcSolver::CompletePartial(MipStart const& start) {
   CbcModel model(fixed);
   model.passInMessageHandler(&silent_);
   model.setLogLevel(0);
-  SetUpCbc(model, task_.parameters, !mip_.sets.empty());
+  SetUpCbc(model, task_.parameters);
   int const limit = task_.parameters.Int(IntParam::kMipStartNodeLimit);
   model.setMaximumNodes(limit < 0 ? std::numeric_limits<int>::max() : limit);
   model.setUseElapsedTime(true);
   model.setMaximumSeconds(std::max(0.0, task_.stop.Remaining()));
-  AddSets(model, mip_.sets);
   model.branchAndBound();
   if (model.bestSolution() == nullptr) return false;
   std::vector<double> const values(model.bestSolution(), model.bestSolution() + task_.data.columns.Count());
@@ -304,12 +260,12 @@ bool CbcSolver::CompletePartial(MipStart const& start) {
 }
 
 bool CbcSolver::MayPreprocess() const {
-  return task_.parameters.Int(IntParam::kPresolve) != 0 && mip_.sets.empty() && !isBoxed_;
+  return task_.parameters.Int(IntParam::kPresolve) != 0;
 }
 
 // The model to search; none where this settles the problem.
-std::unique_ptr<OsiClpSolverInterface> CbcSolver::Preprocess() {
-  if (!MayPreprocess()) return std::make_unique<OsiClpSolverInterface>(solver_);
+std::unique_ptr<ClpInterface> CbcSolver::Preprocess() {
+  if (!MayPreprocess()) return std::make_unique<ClpInterface>(solver_);
   preprocess_ = std::make_unique<CglPreProcess>();
   preprocess_->passInMessageHandler(&silent_);
   preprocess_->setTimeLimit(std::max(0.1, task_.stop.Remaining()), true);
@@ -319,7 +275,7 @@ std::unique_ptr<OsiClpSolverInterface> CbcSolver::Preprocess() {
   probing.setMaxElementsRoot(200);
   preprocess_->addCutGenerator(&probing);
   auto* processed = dynamic_cast<OsiClpSolverInterface*>(
-      preprocess_->preProcessNonDefault(solver_, 0, kPreprocessPasses, kNoNewIntegers));
+      preprocess_->preProcessNonDefault(solver_, 0, 1, kOnePass + kNoDualArguments));
   if (task_.stop.Asked()) {
     result_.mipStatus = task_.stop.Reason();
     return nullptr;
@@ -331,13 +287,13 @@ std::unique_ptr<OsiClpSolverInterface> CbcSolver::Preprocess() {
   if (processed->getNumCols() == 0) {
     // All is settled, and the engine tells no way back to the columns: the model as it is gives them at once.
     preprocess_.reset();
-    auto whole = std::make_unique<OsiClpSolverInterface>(solver_);
+    auto whole = std::make_unique<ClpInterface>(solver_);
     Control(*whole);
     return whole;
   }
   auto const* cols = preprocess_->originalColumns();
   originalCols_.assign(cols, cols + processed->getNumCols());
-  auto reduced = std::make_unique<OsiClpSolverInterface>(*processed);
+  auto reduced = std::make_unique<ClpInterface>(*processed);
   Control(*reduced);
   task_.log.Print("Presolve: %d rows, %d columns, %lld elements left", reduced->getNumRows(), reduced->getNumCols(),
                   static_cast<long long>(reduced->getNumElements()));
@@ -346,12 +302,12 @@ std::unique_ptr<OsiClpSolverInterface> CbcSolver::Preprocess() {
 }
 
 // The best start as an incumbent of the search. Where the reduced model refuses it, it still cuts off what is worse.
-void CbcSolver::OfferStart(CbcModel& model, OsiClpSolverInterface const& reduced) {
+void CbcSolver::OfferStart(CbcModel& model, ClpInterface const& reduced) {
   if (incumbents_.IsEmpty()) return;
   auto const& best = incumbents_.Best();
   double const objective = EngineValue(best.objective);
   int const cols = task_.data.columns.Count();
-  OsiClpSolverInterface fixed(reduced);
+  ClpInterface fixed(reduced);
   for (int col = 0; col < fixed.getNumCols(); ++col) {
     int const original = originalCols_.empty() ? col : originalCols_[col];
     if (!fixed.isInteger(col) || original < 0 || original >= cols) continue;
@@ -360,23 +316,22 @@ void CbcSolver::OfferStart(CbcModel& model, OsiClpSolverInterface const& reduced
     fixed.setColBounds(col, value, value);
   }
   fixed.resolve();
-  if (mip_.sets.empty() && fixed.isProvenOptimal() && fixed.getObjValue() <= objective + 1e-6 * std::abs(objective)) {
+  if (fixed.isProvenOptimal() && fixed.getObjValue() <= objective + 1e-6 * std::abs(objective)) {
     std::vector<double> const values(fixed.getColSolution(), fixed.getColSolution() + fixed.getNumCols());
     model.setBestSolution(values.data(), static_cast<int>(values.size()), fixed.getObjValue(), true);
   }
   if (model.bestSolution() == nullptr) model.setCutoff(objective);
 }
 
-void CbcSolver::Search(OsiClpSolverInterface& reduced) {
+void CbcSolver::Search(ClpInterface& reduced) {
   std::vector<std::vector<double>> found;
   CbcModel model(reduced);
   model.passInMessageHandler(&silent_);
   model.setLogLevel(0);
-  SetUpCbc(model, task_.parameters, !mip_.sets.empty());
+  SetUpCbc(model, task_.parameters);
   model.setUseElapsedTime(true);
   model.setMaximumSeconds(std::max(0.0, task_.stop.Remaining()));
   model.initialSolve();
-  AddSets(model, mip_.sets);
   OfferStart(model, reduced);
   SearchWatch const watch(task_, progress_, found);
   model.passInEventHandler(&watch);
@@ -401,6 +356,7 @@ void CbcSolver::Search(OsiClpSolverInterface& reduced) {
     if (!isKept && urgent && incumbents_.IsEmpty()) KeepFinal(best, reduced, kPatientSeconds);
   }
   for (auto const& values : found) CarryBack(values);
+  if (result_.mipStatus == SolveStatus::kOptimal) RaiseBound();
   if (result_.mipStatus == SolveStatus::kOptimal && incumbents_.IsEmpty()) {
     // The search found a solution, and it does not hold in the problem itself.
     result_.mipStatus = best.empty() ? SolveStatus::kInfeasible : SolveStatus::kImprecise;
@@ -408,6 +364,16 @@ void CbcSolver::Search(OsiClpSolverInterface& reduced) {
       result_.mipValues.assign(best.begin(), best.begin() + task_.data.columns.Count());
     }
   }
+}
+
+// After a search to the end nothing is better than the best solution by more than the gap that was allowed; the engine
+// does not say so where that solution was a start.
+void CbcSolver::RaiseBound() {
+  if (incumbents_.IsEmpty()) return;
+  double const best = EngineValue(incumbents_.Best().objective);
+  double const gap = std::max(task_.parameters.Dbl(DblParam::kAbsGap),
+                              task_.parameters.Dbl(DblParam::kRelGap) * std::abs(incumbents_.Best().objective));
+  progress_.Update(result_.nodes, 0, best - gap);
 }
 
 void CbcSolver::Conclude(CbcModel const& model) {
@@ -436,7 +402,7 @@ void CbcSolver::CarryBack(std::vector<double> const& reducedValues) {
     incumbents_.Complete(reducedValues, false);
     return;
   }
-  OsiClpSolverInterface rest(solver_);
+  ClpInterface rest(solver_);
   Control(rest);
   auto const& linear = mip_.linear;
   for (int col = 0; col < linear.ColCount(); ++col) rest.setColBounds(col, linear.lower[col], linear.upper[col]);
@@ -456,15 +422,14 @@ void CbcSolver::CarryBack(std::vector<double> const& reducedValues) {
 }
 
 // The best solution, by way of the preprocessing's own road back.
-bool CbcSolver::KeepFinal(std::vector<double> const& reducedValues, OsiClpSolverInterface const& reduced,
-                          double seconds) {
+bool CbcSolver::KeepFinal(std::vector<double> const& reducedValues, ClpInterface const& reduced, double seconds) {
   bool const urgent = task_.stop.Reason() != SolveStatus::kUnstarted;
   if (!preprocess_) return incumbents_.Complete(reducedValues, urgent);
   static std::atomic<bool> const never = false;
   StopSignal noStop(never, Clock::now(), seconds);
   IterationWatch::Report const silence;
   IterationWatch const watch(noStop, silence);
-  OsiClpSolverInterface fixed(reduced);
+  ClpInterface fixed(reduced);
   fixed.getModelPtr()->passInEventHandler(&watch);
   solver_.getModelPtr()->passInEventHandler(&watch);
   for (int col = 0; col < fixed.getNumCols(); ++col) {
@@ -474,8 +439,10 @@ bool CbcSolver::KeepFinal(std::vector<double> const& reducedValues, OsiClpSolver
   }
   fixed.setColSolution(reducedValues.data());
   fixed.resolve();
-  if (fixed.isProvenOptimal()) {
-    preprocess_->postProcess(fixed);
+  bool const isSolved = fixed.isProvenOptimal();
+  if (isSolved) preprocess_->postProcess(fixed);
+  Control(solver_);  // the watch over these seconds ends with them
+  if (isSolved) {
     auto const* solution = solver_.getColSolution();
     std::vector<double> const values(solution, solution + task_.data.columns.Count());
     if (incumbents_.Complete(values, urgent)) return true;
@@ -485,10 +452,6 @@ bool CbcSolver::KeepFinal(std::vector<double> const& reducedValues, OsiClpSolver
 }
 
 SolveResult CbcSolver::Finish() {
-  // Solutions may lie outside of the box.
-  if (isBoxed_ && result_.mipStatus == SolveStatus::kInfeasible) {
-    result_.mipStatus = SolveStatus::kInfeasibleOrUnbounded;
-  }
   if (!incumbents_.IsEmpty()) {
     auto const& best = incumbents_.Best();
     auto const& lp = incumbents_.BestLp();
@@ -503,22 +466,9 @@ SolveResult CbcSolver::Finish() {
     result_.mipObjective = ObjectiveOf(task_.data, result_.mipValues);
   }
   bool const hasSolution = !result_.mipValues.empty();
-  bool const isDone = result_.mipStatus == SolveStatus::kOptimal || result_.mipStatus == SolveStatus::kImprecise;
-  if (isBoxed_ && hasSolution && isDone) {
-    bool const touches = std::ranges::any_of(result_.mipValues, [](double v) { return std::abs(v) >= 0.5 * kBox; });
-    if (touches) {
-      auto const iterations = result_.simplexIterations;
-      result_ = {};
-      result_.engine = "Cbc";
-      result_.isMip = true;
-      result_.simplexIterations = iterations;
-      result_.mipStatus = SolveStatus::kUnbounded;
-      return std::move(result_);
-    }
-  }
   double bound = progress_.Bound();
   if (hasSolution) bound = std::min(bound, EngineValue(result_.mipObjective));
-  bool const hasBound = std::abs(bound) < kInfinity && !isBoxed_;
+  bool const hasBound = std::abs(bound) < kInfinity;
   result_.bestBound = hasBound ? ProblemValue(bound) : -mip_.linear.sign * kInfinity;
   result_.bestGap = hasSolution && hasBound ? RelativeGap(result_.mipObjective, result_.bestBound) : kInfinity;
   return std::move(result_);
@@ -537,11 +487,16 @@ bool CbcEngine::Supports(ProblemClass const& what) const {
 SolveResult CbcEngine::Solve(SolveTask const& task) const {
   try {
     CbcSolver solver(task);
-    if (solver.IsFit()) return solver.Run();
+    if (solver.IsFit()) {
+      auto result = solver.Run();
+      if (result.mipStatus != SolveStatus::kInfeasibleOrUnbounded) return result;
+      task.log.Line("The relaxation has no end: searched by the engine Vorq");
+    } else {
+      task.log.Line("Sets or integer columns without bounds: searched by the engine Vorq");
+    }
   } catch (CoinError const& error) {
     throw Failure(VORQ_INTERNAL, "The engine Cbc failed: " + error.message());
   }
-  task.log.Line("Sets or integer columns without bounds: searched by the engine Vorq");
   return BranchAndCutEngine().Solve(task);
 }
 

@@ -1,7 +1,6 @@
 // Cuts, heuristics and branching rules of the MIP engine.
 #include "solver/engines/cbc_setup.hpp"
 
-#include <CbcBranchActual.hpp>
 #include <CbcHeuristic.hpp>
 #include <CbcHeuristicDiveCoefficient.hpp>
 #include <CbcHeuristicFPump.hpp>
@@ -16,7 +15,6 @@
 #include <CglTwomir.hpp>
 #include <CglZeroHalf.hpp>
 #include <limits>
-#include <numeric>
 #include <type_traits>
 
 #include "solver/parameters/parameter_set.hpp"
@@ -101,36 +99,19 @@ std::vector<NamedGenerator> CutGenerators() {
   return generators;
 }
 
-void AddSets(CbcModel& model, std::vector<MipModel::Set> const& sets) {
-  if (sets.empty()) return;
-  model.findIntegers(true);
-  std::vector<std::unique_ptr<CbcObject>> objects;
-  std::vector<CbcObject*> pointers;
-  for (auto const& set : sets) {
-    std::vector<double> weights(set.cols.size());
-    std::iota(weights.begin(), weights.end(), 1.0);
-    objects.push_back(std::make_unique<CbcSOS>(&model, static_cast<int>(set.cols.size()), set.cols.data(),
-                                               weights.data(), static_cast<int>(objects.size()), set.type));
-    // Before the integer columns: a set that is settled settles the most.
-    objects.back()->setPriority(100);
-    pointers.push_back(objects.back().get());
-  }
-  model.addObjects(static_cast<int>(pointers.size()), pointers.data());
-}
-
-void SetUpCbc(CbcModel& model, ParameterSet const& parameters, bool plain) {
+void SetUpCbc(CbcModel& model, ParameterSet const& parameters) {
   if (parameters.Int(IntParam::kCutLevel) != 0) {
     for (auto const& [name, generator] : CutGenerators()) model.addCutGenerator(generator.get(), kWhereUseful, name);
   }
-  if (parameters.Int(IntParam::kHeurLevel) != 0 && !plain) AddHeuristics(model);
+  if (parameters.Int(IntParam::kHeurLevel) != 0) AddHeuristics(model);
   model.setNumberStrong(parameters.Int(IntParam::kStrongBranching) == 0 ? 0 : 5);
   // More trials than usual: with fewer, a small general-integer problem such as bell5 can take many times as long.
   model.setNumberBeforeTrust(20);
   model.setMaximumCutPassesAtRoot(-100);
   model.setMaximumCutPasses(10);
   model.setMinimumDrop(1e-4);
-  // From this depth on small subtrees are searched at one go, by linear solves alone. Such a search sees no SOS.
-  if (!plain) model.setFastNodeDepth(kFastDepth);
+  // From this depth on small subtrees are searched at one go, by linear solves alone.
+  model.setFastNodeDepth(kFastDepth);
 
   model.setIntegerTolerance(parameters.Dbl(DblParam::kIntTol));
   model.setAllowableGap(parameters.Dbl(DblParam::kAbsGap));

@@ -6,19 +6,13 @@
 #include <memory>
 #include <vector>
 
-#include "solver/engines/mip_model.hpp"
-
 class CbcModel;
 
 namespace vorqsolver {
 
 class ParameterSet;
 
-// `plain` leaves heuristics out, which know nothing of SOS.
-void SetUpCbc(CbcModel& model, ParameterSet const& parameters, bool plain);
-
-// Adds the sets as things to branch on.
-void AddSets(CbcModel& model, std::vector<MipModel::Set> const& sets);
+void SetUpCbc(CbcModel& model, ParameterSet const& parameters);
 
 // Probing as all use it; the limits of its work are up to the user.
 CglProbing Probing();

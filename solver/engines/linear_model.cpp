@@ -71,7 +71,7 @@ void LinearModel::AddSideRows(SideRows const& side) {
 }
 
 std::size_t LinearModel::ElementCount() const {
-  std::size_t count = data_->rows.matrix.ElementCount();
+  auto count = static_cast<std::size_t>(std::ranges::count_if(data_->rows.matrix.ColValues(), std::not_fn(IsNothing)));
   for (auto const& terms : added_) count += terms.size();
   return count;
 }
@@ -115,7 +115,10 @@ CoinPackedMatrix LinearModel::Matrix() const {
   for (std::size_t col = begins.size(); col < starts.size(); ++col) starts[col] = starts[col - 1];
   CoinPackedMatrix result(true, rows, data_->columns.Count(), starts.back(), matrix.ColValues().data(),
                           matrix.ColIndices().data(), starts.data(), nullptr);
-  if (std::ranges::any_of(matrix.ColValues(), IsNothing)) result.compress(kLeast);
+  if (std::ranges::any_of(matrix.ColValues(), IsNothing)) {
+    result.compress(kLeast);
+    result.removeGaps();
+  }
   result.setDimensions(rows, ColCount());
   if (added_.empty()) return result;
 

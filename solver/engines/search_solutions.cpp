@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "solver/engines/clp_engine.hpp"
+#include "solver/engines/mip_starts.hpp"
 #include "solver/engines/sub_search.hpp"
 #include "solver/tasks/check.hpp"
 
@@ -22,6 +23,11 @@ constexpr double kSame = 1e-5;
 constexpr double kUrgentSeconds = 0.5;  // for the last linear problem, once the search was stopped
 constexpr double kPatientSeconds = 10.0;
 constexpr int kRounds = 50;  // of solving a completed candidate again with the rows that cut it off
+
+std::optional<std::vector<double>> Solution(SolveResult solved) {
+  if (solved.lpStatus != SolveStatus::kOptimal) return std::nullopt;
+  return std::move(solved.lp.values);
+}
 
 }  // namespace
 
@@ -59,7 +65,8 @@ void SearchSolutions::SetCounts(int nodes, int openNodes, double bound) {
 }
 
 void SearchSolutions::Call(int context) {
-  if (task_.callback == nullptr || !task_.callback->Wants(context)) return;
+  // Who ended the search hears no more of it.
+  if (task_.callback == nullptr || !task_.callback->Wants(context) || IsOver()) return;
   state_.seconds = task_.stop.Elapsed();
   state_.solutions = static_cast<int>(incumbents_.Pool().size());
   CountRows();
@@ -99,6 +106,8 @@ Verdict SearchSolutions::Judge(std::span<double const> values, char mark, bool i
   if (!CheckSolution(task_.data, candidate).Holds(task_.parameters)) return Verdict::kRefused;
   double const objective = ObjectiveOf(task_.data, candidate);
   if (EngineValue(objective) >= cutoff_) return Verdict::kRefused;
+  bool const asks = task_.callback != nullptr && task_.callback->Wants(VORQ_CONTEXT_CANDIDATE);
+  if (asks && IsOver()) return Verdict::kRefused;
   state_.candidate = candidate;
   state_.candidateObjective = objective;
   isObjected_ = false;
@@ -138,27 +147,30 @@ LinearModel SearchSolutions::Rest(std::span<double const> values) const {
   return rest;
 }
 
-std::optional<std::vector<double>> SearchSolutions::SolveRest(LinearModel const& rest) const {
+SolveResult SearchSolutions::SolveRest(LinearModel const& rest) const {
   for (int col = 0; col < rest.ColCount(); ++col) {
-    if (rest.lower[col] > rest.upper[col]) return std::nullopt;
+    if (rest.lower[col] <= rest.upper[col]) continue;
+    SolveResult result;
+    result.lpStatus = SolveStatus::kInfeasible;
+    return result;
   }
   Basis const noBasis;
   std::vector<double> const noValues;
   Log quiet;
   SolveTask const task{task_.data, task_.parameters, noBasis, noValues, task_.starts, task_.stop, quiet};
-  auto solved = SolveLinearModel(rest, task);
-  if (solved.lpStatus != SolveStatus::kOptimal) return std::nullopt;
-  return std::move(solved.lp.values);
+  return SolveLinearModel(rest, task);
 }
 
 Verdict SearchSolutions::JudgeCompleted(std::span<double const> values, char mark) {
   auto const fixed = Rounded(values);
   for (int round = 0; round < kRounds && !task_.stop.Asked(); ++round) {
-    auto const point = SolveRest(Rest(fixed));
-    if (!point) return Verdict::kRefused;
-    if (EngineValue(ObjectiveOf(task_.data, *point)) >= cutoff_) return Verdict::kRefused;
+    auto const solved = SolveRest(Rest(fixed));
+    if (solved.lpStatus == SolveStatus::kInfeasible) return Verdict::kRefused;
+    if (solved.lpStatus != SolveStatus::kOptimal) return Verdict::kUnsolved;
+    auto const& point = solved.lp.values;
+    if (EngineValue(ObjectiveOf(task_.data, point)) >= cutoff_) return Verdict::kRefused;
     int const known = pool_.Size();
-    auto const verdict = Judge(*point, mark, true);
+    auto const verdict = Judge(point, mark, true);
     if (verdict != Verdict::kCutOff) return verdict;
     if (pool_.Size() == known) return Verdict::kRefused;
   }
@@ -185,10 +197,7 @@ std::optional<std::vector<double>> SearchSolutions::Complete(std::span<double co
     auto rounded = Rounded(values);
     if (IsFeasible(rounded)) return rounded;
   }
-  bool hasDiscrete = task_.data.soss.empty();
-  for (int col = 0; col < task_.data.columns.Count(); ++col) {
-    hasDiscrete &= values[col] != VORQ_UNDEFINED || task_.data.columns.type[col] == 'C';
-  }
+  bool const hasDiscrete = GivesAllDiscrete(task_.data, values);
   for (bool const fixContinuous : {true, false}) {
     if (task_.stop.Asked()) return std::nullopt;
     std::optional<std::vector<double>> found;
@@ -201,14 +210,14 @@ std::optional<std::vector<double>> SearchSolutions::Complete(std::span<double co
         if (isGiven) rest.lower[col] = std::max(rest.lower[col], values[col]);
         if (isGiven) rest.upper[col] = std::min(rest.upper[col], values[col]);
       }
-      found = SolveRest(rest);
+      found = Solution(SolveRest(rest));
     } else {
       found = SearchRest(values, fixContinuous, nodeLimit);
     }
     if (!found) continue;
     auto rounded = Rounded(*found);
     if (IsFeasible(rounded)) return rounded;
-    auto exact = SolveRest(Rest(rounded));
+    auto exact = Solution(SolveRest(Rest(rounded)));
     if (exact && IsFeasible(*exact)) return exact;
   }
   return std::nullopt;
@@ -233,7 +242,6 @@ void SearchSolutions::TakeUserCuts(std::vector<LinearRow> rows) {
 }
 
 std::optional<double> SearchSolutions::OfferSolution(std::span<double const> values) {
-  constexpr int kNodes = 200;
   int const lazyConstraints = pool_.Count(CutPool::Kind::kLazyConstraint);
   for (auto& offer : offers_) {
     if (!std::ranges::equal(offer.given, values)) continue;
@@ -242,8 +250,7 @@ std::optional<double> SearchSolutions::OfferSolution(std::span<double const> val
     std::erase_if(offers_, [&](Offer const& each) { return &each == &offer; });
     break;
   }
-  int const limit = task_.parameters.Int(IntParam::kMipStartNodeLimit);
-  auto completed = Complete(values, limit < 0 ? kNodes : limit);
+  auto completed = Complete(values, task_.parameters.Int(IntParam::kMipStartNodeLimit));
   Offer offer{{values.begin(), values.end()}, lazyConstraints, std::nullopt};
   if (completed) {
     offer.objective = ObjectiveOf(task_.data, *completed);

@@ -21,6 +21,7 @@ enum class Verdict {
   kCutOff,     // it violates rows of the pool
   kImprecise,  // the callback objects to it for less than the tolerances
   kRefused,    // it does not solve the problem, or is no better than the incumbent
+  kUnsolved,   // what it leaves open could not be solved
 };
 
 class SearchSolutions : public RunningSearch {
@@ -42,8 +43,12 @@ class SearchSolutions : public RunningSearch {
   // cuts it off.
   Verdict JudgeCompleted(std::span<double const> values, char mark);
 
-  // Fills open entries (1e40) and mends the others by fixing what is given; none if nothing feasible comes of it.
+  // Fills open entries (1e40) and mends the others by fixing what is given; none if nothing feasible comes of it. The
+  // limit counts the nodes of a search for open integers, negative for none.
   std::optional<std::vector<double>> Complete(std::span<double const> values, int nodeLimit);
+
+  // The problem's columns, with the integer ones exactly so.
+  std::vector<double> Rounded(std::span<double const> values) const;
 
   // Judges what the caller offered meanwhile. To be called where the search can bear a new incumbent.
   void TakeOffers();
@@ -75,15 +80,16 @@ class SearchSolutions : public RunningSearch {
     std::optional<double> objective;
   };
 
+  bool IsOver() const { return task_.stop.Asked() && task_.stop.Reason() == SolveStatus::kInterrupted; }
   void Call(int context);
   void CountRows();
   void Install(std::vector<double> const& values, double objective, char mark);
   double EngineValue(double objective) const { return sign_ * (objective - task_.data.objective.constant); }
   double ObjectiveStep() const;
-  std::vector<double> Rounded(std::span<double const> values) const;
   bool IsFeasible(std::span<double const> values) const;
   LinearModel Rest(std::span<double const> values) const;
-  std::optional<std::vector<double>> SolveRest(LinearModel const& rest) const;
+  // The status is that of the linear problem.
+  SolveResult SolveRest(LinearModel const& rest) const;
   std::optional<std::vector<double>> SearchRest(std::span<double const> given, bool fixContinuous, int nodeLimit) const;
 
   SolveTask const& task_;

@@ -2,12 +2,12 @@
 #include "solver/engines/sub_search.hpp"
 
 #include <CbcModel.hpp>
-#include <OsiClpSolverInterface.hpp>
 #include <algorithm>
 #include <cmath>
 
 #include "solver/engines/branch_and_cut.hpp"
 #include "solver/engines/cbc_setup.hpp"
+#include "solver/engines/clp_interface.hpp"
 #include "solver/engines/osi_setup.hpp"
 
 namespace vorqsolver {
@@ -17,7 +17,7 @@ std::optional<std::vector<double>> SearchModel(LinearModel const& linear, MipMod
   if (!mip.sets.empty() || mip.HasOpenIntegers()) return SearchWithSets(linear, mip, task, limits.nodes);
   SilentHandler silent;
   IterationWatch::Report tick = [](ClpSimplex const*) {};
-  OsiClpSolverInterface solver;
+  ClpInterface solver;
   Control(solver, silent, IterationWatch(task.stop, tick));
   LoadRelaxation(solver, linear, mip.isInteger, task.parameters);
   solver.initialSolve();
@@ -27,8 +27,8 @@ std::optional<std::vector<double>> SearchModel(LinearModel const& linear, MipMod
   CbcModel model(solver);
   model.passInMessageHandler(&silent);
   model.setLogLevel(0);
-  SetUpCbc(model, task.parameters, false);
-  model.setMaximumNodes(limits.nodes);
+  SetUpCbc(model, task.parameters);
+  model.setMaximumNodes(limits.nodes < 0 ? std::numeric_limits<int>::max() : limits.nodes);
   model.setUseElapsedTime(true);
   model.setMaximumSeconds(std::max(0.0, std::min(limits.seconds, task.stop.Remaining())));
   if (std::isfinite(limits.cutoff)) model.setCutoff(limits.cutoff);

@@ -12,7 +12,7 @@
 namespace vorqsolver {
 
 struct SubSearchLimits {
-  int nodes = 0;
+  int nodes = 0;                                            // negative for no limit
   double cutoff = std::numeric_limits<double>::infinity();  // only what is below it is of use
   double seconds = std::numeric_limits<double>::infinity();
 };

@@ -23,17 +23,8 @@ TreeRelaxation::TreeRelaxation(SolveTask const& task, MipModel const& mip, CutPo
                                IterationWatch::Report const& tick)
     : task_(task), pool_(pool), tick_(tick), rootLower_(mip.linear.lower), rootUpper_(mip.linear.upper) {
   Control(solver_, silent_, IterationWatch(task_.stop, tick_));
-  // Hot starts of the whole model: those of a reduced one check memory that they did not fill, and abort by chance.
-  constexpr unsigned kKeepWhole = 65536;
-  solver_.setSpecialOptions(solver_.specialOptions() | kKeepWhole);
   LoadRelaxation(solver_, mip.linear, mip.isInteger, task.parameters);
   baseRows_ = solver_.getNumRows();
-}
-
-std::unique_ptr<OsiClpSolverInterface> TreeRelaxation::Copy() {
-  auto copy = std::make_unique<OsiClpSolverInterface>(solver_);
-  Control(*copy, silent_, IterationWatch(task_.stop, tick_));
-  return copy;
 }
 
 TreeRelaxation::Outcome TreeRelaxation::Read() {
@@ -53,9 +44,29 @@ TreeRelaxation::Outcome TreeRelaxation::Solve() {
   if (isLost()) isSolved_ = false;
   if (outcome != Outcome::kOptimal) return outcome;
   isSolved_ = true;
+  TakePoint();
+  return outcome;
+}
+
+TreeRelaxation::Outcome TreeRelaxation::SolveWithin(double size) {
+  auto const count = static_cast<std::size_t>(solver_.getNumCols());
+  std::vector<double> const lower(solver_.getColLower(), solver_.getColLower() + count);
+  std::vector<double> const upper(solver_.getColUpper(), solver_.getColUpper() + count);
+  for (int col = 0; col < solver_.getNumCols(); ++col) {
+    solver_.setColBounds(col, std::max(lower[col], std::min(-size, upper[col])),
+                         std::min(upper[col], std::max(size, lower[col])));
+  }
+  auto const outcome = SolveAfresh();
+  if (outcome == Outcome::kOptimal) TakePoint();
+  solver_.setColLower(lower.data());
+  solver_.setColUpper(upper.data());
+  isSolved_ = false;
+  return outcome;
+}
+
+void TreeRelaxation::TakePoint() {
   objective_ = solver_.getObjValue();
   values_.assign(solver_.getColSolution(), solver_.getColSolution() + solver_.getNumCols());
-  return outcome;
 }
 
 // From the slack basis. From where an unbounded or failed solve ended, the engine can call feasible models infeasible
@@ -153,6 +164,15 @@ void TreeRelaxation::AddFromPool(std::span<int const> entries) {
     pool_.SetActive(entry, true);
     added_.push_back({entry});
   }
+}
+
+bool TreeRelaxation::AddWholePool() {
+  std::vector<int> missing;
+  for (int entry = 0; entry < pool_.Size(); ++entry) {
+    if (!pool_[entry].isActive) missing.push_back(entry);
+  }
+  AddFromPool(missing);
+  return !missing.empty();
 }
 
 bool TreeRelaxation::AddCuts(OsiCuts const& cuts, std::size_t limit) {

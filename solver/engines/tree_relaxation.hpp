@@ -3,13 +3,13 @@
 #pragma once
 
 #include <CoinWarmStartBasis.hpp>
-#include <OsiClpSolverInterface.hpp>
 #include <cstddef>
 #include <memory>
 #include <span>
 #include <vector>
 
 #include "solver/engines/clp_control.hpp"
+#include "solver/engines/clp_interface.hpp"
 #include "solver/engines/cut_pool.hpp"
 #include "solver/engines/mip_model.hpp"
 
@@ -30,6 +30,10 @@ class TreeRelaxation {
   TreeRelaxation& operator=(TreeRelaxation const&) = delete;
 
   Outcome Solve();
+
+  // Solves as if no column lay farther than `size` from 0 where its bounds leave that open: a point for a relaxation
+  // that has no end. The objective bounds nothing.
+  Outcome SolveWithin(double size);
 
   // Of the last solve.
   double Objective() const { return objective_; }
@@ -62,6 +66,9 @@ class TreeRelaxation {
 
   void AddFromPool(std::span<int const> entries);
 
+  // All rows of the pool that are not in; false if there is none.
+  bool AddWholePool();
+
   // Takes the tightened bounds and, of the rows that the point of the last solve violates, at most `limit`; false if
   // there is nothing to take.
   bool AddCuts(OsiCuts const& cuts, std::size_t limit);
@@ -71,9 +78,8 @@ class TreeRelaxation {
   std::vector<int> IdleRows();
   void DeleteRows(std::vector<int> const& rows);
 
-  // For cut generators and heuristics.
-  OsiClpSolverInterface const& Solver() const { return solver_; }
-  std::unique_ptr<OsiClpSolverInterface> Copy();
+  // For cut generators.
+  ClpInterface const& Solver() const { return solver_; }
 
  private:
   struct AddedRow {
@@ -82,13 +88,14 @@ class TreeRelaxation {
   };
 
   Outcome SolveAfresh();
+  void TakePoint();
   Outcome Read();
 
   SolveTask const& task_;
   CutPool& pool_;
   IterationWatch::Report const& tick_;
   SilentHandler silent_;
-  OsiClpSolverInterface solver_;
+  ClpInterface solver_;
   int baseRows_ = 0;
   std::vector<AddedRow> added_;
   std::vector<double> rootLower_;

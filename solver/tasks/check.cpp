@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
+#include <utility>
 
 #include "solver/engines/mip_model.hpp"
 #include "solver/parameters/parameter_set.hpp"
@@ -143,6 +145,17 @@ bool Violations::Holds(ParameterSet const& parameters) const {
   double const tolerance = parameters.Dbl(DblParam::kFeasTol);
   return relativeBounds <= tolerance && relativeRows <= tolerance && relativeDiscrete <= tolerance &&
          integrality <= parameters.Dbl(DblParam::kIntTol);
+}
+
+std::string Violations::Worst() const {
+  std::pair<double, char const*> const kinds[] = {{bounds, "a bound"},
+                                                  {rows, "a row"},
+                                                  {integrality, "integrality"},
+                                                  {discrete, "an SOS, indicator or semicontinuity"}};
+  auto const& [amount, kind] = *std::ranges::max_element(kinds, {}, &std::pair<double, char const*>::first);
+  char text[40];
+  std::snprintf(text, sizeof text, " violated by %.3g", amount);
+  return std::string(kind) + text;
 }
 
 Violations CheckSolution(ProblemData const& data, std::span<double const> values, bool relaxed) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 
 #include "solver/problem/problem_data.hpp"
 
@@ -24,6 +25,9 @@ struct Violations {
 
   // Whether the relative violations are within FeasTol and integrality within IntTol.
   bool Holds(ParameterSet const& parameters) const;
+
+  // The greatest one in words: "a row violated by 2".
+  std::string Worst() const;
 };
 
 // Lazy constraints and user cuts count as rows. With `relaxed`, user cuts, integrality, semicontinuity, SOS and

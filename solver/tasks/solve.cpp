@@ -7,12 +7,12 @@
 #include "solver/engines/branch_and_cut.hpp"
 #include "solver/engines/cbc_engine.hpp"
 #include "solver/engines/clp_engine.hpp"
+#include "solver/engines/mip_starts.hpp"
 #include "solver/problem/deletion.hpp"
 #include "solver/problem/failure.hpp"
 #include "solver/tasks/check.hpp"
 #include "solver/tasks/running.hpp"
 #include "solver/tasks/solve_report.hpp"
-#include "solver/tasks/subproblem.hpp"
 #include "solver/tasks/validate.hpp"
 #include "solver/tasks/watchdog.hpp"
 
@@ -91,12 +91,16 @@ SolveResult Run(Problem& problem, bool relaxed, Start const& start, Clock::time_
   Validate(data);
   LogHeader(problem, relaxed);
   auto const cause = PlainInfeasibility(data, problem.parameters, relaxed);
-  if (!cause.empty()) return PlainlyInfeasible(what, cause);
+  if (!cause.empty()) {
+    PassOverStarts(problem.starts, problem.log, "no solution exists");
+    return PlainlyInfeasible(what, cause);
+  }
+  if (!what.IsDiscrete()) PassOverStarts(problem.starts, problem.log, "nothing is discrete");
   LogEngine(problem, engine, what);
   StopSignal stop(problem.interrupted, begin, problem.parameters.Dbl(DblParam::kTimeLimit));
   problem.callbackSession.Set(ToHandle(problem), function, mask, user);
-  return SolveWith(engine, {data, problem.parameters, start.basis, start.values, problem.starts, stop, problem.log,
-                            what.callback ? &problem.callbackSession : nullptr});
+  return engine.Solve({data, problem.parameters, start.basis, start.values, problem.starts, stop, problem.log,
+                       what.callback ? &problem.callbackSession : nullptr});
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 // The way of a subproblem to its result.
 #include "solver/tasks/subproblem.hpp"
 
-#include <algorithm>
-
 #include "solver/problem/failure.hpp"
 #include "solver/tasks/check.hpp"
 #include "solver/tasks/solve.hpp"
@@ -15,26 +13,6 @@ Engine const* FindEngine(ProblemClass const& what) {
     if (engine->Supports(what)) return engine.get();
   }
   return nullptr;
-}
-
-SolveResult SolveWith(Engine const& engine, SolveTask const& task) {
-  SolveResult result = engine.Solve(task);
-  if (!result.isMip || result.mipStatus != SolveStatus::kInfeasibleOrUnbounded || task.callback != nullptr) {
-    return result;
-  }
-  ProblemData feasibility = task.data;
-  feasibility.objective = {};
-  std::ranges::fill(feasibility.columns.objective, 0.0);
-  Basis const noBasis;
-  std::vector<double> const noValues;
-  SolveResult const second =
-      engine.Solve({feasibility, task.parameters, noBasis, noValues, task.starts, task.stop, task.log, nullptr});
-  if (!second.mipValues.empty()) {
-    result.mipStatus = SolveStatus::kUnbounded;
-  } else if (second.mipStatus != SolveStatus::kOptimal) {
-    result.mipStatus = second.mipStatus;
-  }
-  return result;
 }
 
 SolveResult SolveSubproblem(SubproblemTask const& task) {
@@ -55,7 +33,7 @@ SolveResult SolveSubproblem(SubproblemTask const& task) {
   Basis const noBasis;
   std::vector<double> const noValues;
   std::vector<MipStart> const noStarts;
-  result = SolveWith(*engine, {task.data, task.parameters, noBasis, noValues, noStarts, task.stop, task.log});
+  result = engine->Solve({task.data, task.parameters, noBasis, noValues, noStarts, task.stop, task.log});
   auto& status = result.isMip ? result.mipStatus : result.lpStatus;
   auto const& values = ValuesOf(result);
   if (status == SolveStatus::kOptimal && !values.empty() &&

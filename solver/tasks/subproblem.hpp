@@ -18,12 +18,6 @@ struct SubproblemTask {
 // Failure where the data is unfit or no engine solves problems of this kind.
 SolveResult SolveSubproblem(SubproblemTask const& task);
 
-// What the engine finds. Where a MIP has an unbounded relaxation and the engine cannot tell whether it has a solution
-// at all, a second search does, without an objective: with one, the problem is unbounded, the data being rational
-// (Meyer, "On the existence of optimal solutions to integer and mixed-integer programming problems", Mathematical
-// Programming 7, 1974). Callbacks are not asked about a second search: there the question stays open.
-SolveResult SolveWith(Engine const& engine, SolveTask const& task);
-
 // The engine for problems of that kind, null where there is none.
 Engine const* FindEngine(ProblemClass const& what);
 

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 #include <stdexcept>
+#include <tuple>
 #include <utility>
 
 #include "tests/solver/tasks/callback_fixture.hpp"
@@ -376,6 +377,46 @@ TEST_F(CallbacksTest, ReturnValueOtherThanZeroStops) {
   OnCall(kRelaxation, [](Call const&) {});
   EXPECT_EQ(Run(), kInterrupted);
   EXPECT_EQ(calls[kRelaxation], 1);
+}
+
+TEST_F(CallbacksTest, WhoEndedTheSearchIsNotCalledAgain) {
+  AddKnapsack();
+  for (int const context : {kRelaxation, kCandidate, kIncumbent}) {
+    for (bool const interrupts : {false, true}) {
+      SCOPED_TRACE(testing::Message() << context << ' ' << interrupts);
+      int later = 0;
+      bool isOver = false;
+      answer = 0;
+      OnCall(kAll, [&](Call const& call) {
+        later += isOver ? 1 : 0;
+        if (call.context != context) return;
+        isOver = true;
+        if (interrupts) {
+          EXPECT_EQ(VORQ_Interrupt(prob), VORQ_OK);
+        } else {
+          answer = 1;
+        }
+      });
+      EXPECT_EQ(Run(), kInterrupted);
+      EXPECT_EQ(later, 0);
+      // The candidate of that call counts, since nothing came against it.
+      EXPECT_EQ(Int("HasMipSol"), context == kRelaxation ? 0 : 1);
+    }
+  }
+}
+
+TEST_F(CallbacksTest, TrialsOfBranchesBesideLazyConstraintsOfATinyModel) {
+  Maximise();
+  for (int col = 0; col < 2; ++col) Col(1.0, 0.0, 20.0, 'I');
+  Set("CutLevel", 0);
+  int const cols[] = {0, 1};
+  for (auto const& [a, b, rhs] : {std::tuple(6.0, 4.0, 33.0), std::tuple(4.0, 7.0, 35.0)}) {
+    double const coefs[] = {a, b};
+    ASSERT_EQ(VORQ_AddLazyConstr(prob, 2, cols, coefs, 'L', rhs, 0.0, nullptr), VORQ_OK);
+  }
+  OnCall(kAll, [](Call const&) {});
+  EXPECT_EQ(Run(), kOptimal);
+  EXPECT_NEAR(Dbl("BestObj"), 6.0, 1e-9);
 }
 
 TEST_F(CallbacksTest, ExceptionPassesThroughAndLeavesTheProblemUsable) {

@@ -131,6 +131,81 @@ TEST_F(MipStartsTest, ModesRejectWhatTheyDoNotWant) {
   }
 }
 
+// With a callback, our own branch and cut is the engine.
+TEST_F(MipStartsTest, BothEnginesTellTheSame) {
+  ASSERT_EQ(VORQ_SetCallback(
+                prob, [](VORQ_Prob*, VORQ_CallbackData*, int, void*) { return 0; }, -1, nullptr),
+            VORQ_OK);
+  Start({0, 1, 2, 3}, {1.0, 1.0, 1.0, 0.0});
+  Start({0, 1, 2}, {0.0, 0.0, 1.0});
+  Start({0, 1, 2, 3}, {0.0, 1.0, 1.0, 2.0});
+  Start({0, 1, 2, 3}, {1.0, 0.0, 1.0, 9.0});
+  Start({0, 1, 2, 3}, {0.0, 0.0, 0.0, 0.0});
+  Start({1}, {1.0});
+  EXPECT_THAT(StartLines(),
+              testing::ElementsAre("MIP start 1: rejected, infeasible, a row violated by 1, and no solution "
+                                   "with its integers was found",
+                                   "MIP start 2: completed, objective 7.000000000e+00",
+                                   "MIP start 3: accepted, objective 9.000000000e+00",
+                                   "MIP start 4: repaired, objective 1.100000000e+01",
+                                   "MIP start 5: rejected, no better than the best solution so far",
+                                   "MIP start 6: completed, objective 1.200000000e+01"));
+}
+
+TEST_F(MipStartsTest, StartThatTheCallbackCutsOffIsRejected) {
+  ASSERT_EQ(VORQ_SetCallback(
+                prob,
+                [](VORQ_Prob*, VORQ_CallbackData* data, int, void*) {
+                  int const col = 0;
+                  double const one = 1.0;
+                  return VORQ_AddCallbackLazyConstr(data, 1, &col, &one, 'L', 0.0);
+                },
+                VORQ_CONTEXT_CANDIDATE, nullptr),
+            VORQ_OK);
+  Set("MipStartMode", 1);
+  Start({0, 1, 2, 3}, {1.0, 1.0, 0.0, 3.0});
+  EXPECT_EQ(Solve(), kOptimal);
+  EXPECT_NEAR(Dbl("BestObj"), 11.0, 1e-6);
+  EXPECT_THAT(lines, Contains("MIP start 1: rejected, cut off by the callback"));
+}
+
+TEST_F(MipStartsTest, NodeLimitOfCompletionMayBeNone) {
+  Set("MipStartNodeLimit", -1);
+  Start({1}, {1.0});
+  EXPECT_THAT(StartLines(), testing::ElementsAre("MIP start 1: completed, objective 1.200000000e+01"));
+}
+
+TEST_F(MipStartsTest, UnusedStartsAreNamed) {
+  Start({1}, {1.0});
+  Start({2}, {1.0});
+  EXPECT_EQ(VORQ_SolveLp(prob), VORQ_OK);
+  EXPECT_THAT(lines, Contains("MIP start 1: not used, nothing is discrete"));
+  EXPECT_THAT(lines, Contains("MIP start 2: not used, nothing is discrete"));
+  lines.clear();
+  Row({0, 1}, {1.0, 1.0}, 'G', 1.5);
+  Row({0, 1, 2}, {2.0, 3.0, -1.0}, 'L', 1.0);
+  EXPECT_EQ(Solve(), kInfeasible);
+  EXPECT_THAT(lines, Contains("MIP start 2: not used, the relaxation settles the problem"));
+  lines.clear();
+  Row({0}, {1.0}, 'G', 1.5);
+  SetUpper(0, -1.0);
+  EXPECT_EQ(Solve(), kInfeasible);
+  EXPECT_THAT(lines, Contains("MIP start 1: not used, no solution exists"));
+}
+
+// The gap is what the search proved, also where it found nothing better than the start.
+TEST_F(MipStartsTest, OptimalStartLeavesNoGap) {
+  Set("Presolve", 0);
+  Set("CutLevel", 0);
+  Set("HeurLevel", 0);
+  Set("RelGap", 0.0);
+  Row({0, 1, 2}, {4.0, 5.0, 6.0}, 'L', 10.5);
+  Start({0, 1, 2, 3}, {1.0, 1.0, 0.0, 3.0});
+  EXPECT_THAT(StartLines(), testing::ElementsAre("MIP start 1: accepted, objective 1.200000000e+01"));
+  EXPECT_NEAR(Dbl("BestBnd"), 12.0, 1e-5);
+  EXPECT_NEAR(Dbl("BestGap"), 0.0, 1e-5);
+}
+
 TEST_F(MipStartsTest, StartComesFromAFile) {
   std::string const path =
       (std::filesystem::temp_directory_path() / ("vorq_" + std::to_string(::getpid()) + ".mst")).string();

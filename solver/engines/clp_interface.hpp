@@ -1,0 +1,27 @@
+// ClpInterface: the interface that Clp and Cbc share, made safe. Trials of branches (hot starts) work on a reduced
+// model there, and those of a model of at most two rows and two columns end the process by a check of the engine's own
+// that such a model cannot pass. These are tried as they are.
+#pragma once
+
+#include <OsiClpSolverInterface.hpp>
+
+namespace vorqsolver {
+
+class ClpInterface : public OsiClpSolverInterface {
+ public:
+  ClpInterface() = default;
+  explicit ClpInterface(OsiClpSolverInterface const& other) : OsiClpSolverInterface(other) {}
+
+  OsiSolverInterface* clone(bool copyData) const override {
+    return copyData ? new ClpInterface(*this) : new ClpInterface();
+  }
+
+  void markHotStart() override;
+  void solveFromHotStart() override;
+  void unmarkHotStart() override;
+
+ private:
+  bool IsTiny() const { return getNumRows() <= 2 && getNumCols() <= 2; }
+};
+
+}  // namespace vorqsolver
