@@ -86,6 +86,9 @@ class CbcSolver : private StartTaker {
   bool IsFit() const { return mip_.sets.empty() && !mip_.HasOpenIntegers(); }
   SolveResult Run();
 
+  // Whether the engine cannot be trusted with this outcome.
+  bool IsDoubtful(SolveStatus outcome) const;
+
  private:
   void Control(ClpInterface& solver) { vorqsolver::Control(solver, silent_, IterationWatch(task_.stop, tick_)); }
   void Load(ClpInterface& solver);
@@ -124,6 +127,7 @@ class CbcSolver : private StartTaker {
   std::vector<int> originalCols_;  // of the reduced model; empty where nothing was reduced
   double searchObjective_ = -std::numeric_limits<double>::infinity();  // of the best point that the search found
   SolveResult result_;
+  bool hasSearched_ = false;
 };
 
 void CbcSolver::Load(ClpInterface& solver) {
@@ -142,6 +146,7 @@ SolveResult CbcSolver::Run() {
     PassOverStarts(task_.starts, task_.log, "the relaxation settles the problem");
   }
   if (!goesOn) return Finish();
+  hasSearched_ = true;
   if (task_.stop.Asked()) {
     result_.mipStatus = task_.stop.Reason();
     return Finish();
@@ -176,6 +181,16 @@ void CbcSolver::SearchWhole() {
   ClpInterface whole;
   Load(whole);
   Search(whole);
+}
+
+// With columns that have no bounds at all, nodes can seem infeasible that are not.
+bool CbcSolver::IsDoubtful(SolveStatus outcome) const {
+  if (outcome == SolveStatus::kInfeasibleOrUnbounded) return true;
+  if (outcome != SolveStatus::kInfeasible || !hasSearched_) return false;
+  for (int col = 0; col < mip_.linear.ColCount(); ++col) {
+    if (mip_.linear.lower[col] <= -kInfinity && mip_.linear.upper[col] >= kInfinity) return true;
+  }
+  return false;
 }
 
 // The relaxation; false where it settles the problem.
@@ -489,8 +504,8 @@ SolveResult CbcEngine::Solve(SolveTask const& task) const {
     CbcSolver solver(task);
     if (solver.IsFit()) {
       auto result = solver.Run();
-      if (result.mipStatus != SolveStatus::kInfeasibleOrUnbounded) return result;
-      task.log.Line("The relaxation has no end: searched by the engine Vorq");
+      if (!solver.IsDoubtful(result.mipStatus)) return result;
+      task.log.Line("Columns without bounds: searched by the engine Vorq");
     } else {
       task.log.Line("Sets or integer columns without bounds: searched by the engine Vorq");
     }

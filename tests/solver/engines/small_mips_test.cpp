@@ -168,6 +168,21 @@ std::vector<SmallMip> KnownMips() {
         {{0, 2, 3, 4, 5}, {-4.5, 7, 5, 0.5, -1}, 'L', 10}},
        kOptimal,
        157.0 + 1.0 / 7.0},
+      // Far away on free columns, a node seems infeasible.
+      {"FreeNode",
+       1,
+       {{3, -kInf, 13, 'C'},
+        {3, -kInf, kInf, 'C'},
+        {1, 0, 1, 'B'},
+        {5, 0, 1, 'B'},
+        {-9, -kInf, kInf, 'C'},
+        {-6, 0, 1, 'B'},
+        {6, -kInf, 1, 'C'}},
+       {{{0, 1, 3, 4}, {-5, -9, 4.5, -6.5}, 'E', 23},
+        {{0, 2, 3, 4, 5}, {1.5, -1, -7, -4, 7.5}, 'G', 29},
+        {{0, 1, 6}, {-1, -3, -2}, 'L', -13},
+        {{1, 4}, {3.5, -5}, 'G', 25}},
+       kOptimal},
       // A row without a term that counts.
       {"ZeroRow", -1, {{2, -kInf, kInf, 'I'}, {-1, 2, kInf, 'I'}}, {{{0}, {0}, 'E', -12}}, kInfeasible},
       // Trials of branches of so small a model abort.
