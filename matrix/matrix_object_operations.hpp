@@ -7,16 +7,20 @@
 
 namespace Vorq {
 
+// Puts a default item into each cell that holds none.
+template <class Cell, int M>
+void GiveItems(NdArray<Cell, M>& cells) {
+  cells.ForEach([](Cell& cell) {
+    if (!cell.HasRecord()) cell = DefaultCell<Cell>();
+  });
+}
+
 // What an operation made of cells of `source`: where that is an array of its own, some of its cells may stand for none
 // of the source, and hold no item.
 template <class Cell, int M>
 NdArray<Cell, M> WithItems(NdArray<Cell, M> cells, SharedPtr<Cell> const& source) {
   if constexpr (kIsItem<Cell>) {
-    if (cells.Store() != source) {
-      cells.ForEach([](Cell& cell) {
-        if (!cell.HasRecord()) cell = DefaultCell<Cell>();
-      });
-    }
+    if (cells.Store() != source) GiveItems(cells);
   }
   return cells;
 }
@@ -31,9 +35,7 @@ MatrixObject<Cell, N>::MatrixObject(NdArray<Cell, N> cells) : cells_(std::move(c
     cells_ = std::move(filled);
   } else if constexpr (kIsItem<Cell>) {
     if (cells_.Find(0)->HasRecord()) return;
-    cells_.ForEach([](Cell& cell) {
-      if (!cell.HasRecord()) cell = DefaultCell<Cell>();
-    });
+    GiveItems(cells_);
   }
 }
 

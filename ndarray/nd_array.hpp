@@ -113,9 +113,9 @@ class NdArray {
 
   // Over the flattened store, which starts at the store's first element, whatever the offset here: that is meant. For a
   // target that reaches beyond the store see View.
-  NdArray<T, 1> Reshape(NDim<1> const& target, T const& standIn = T()) const;
-  NdArray<T, 2> Reshape(NDim<2> const& target, T const& standIn = T()) const;
-  NdArray<T, 3> Reshape(NDim<3> const& target, T const& standIn = T()) const;
+  NdArray<T, 1> Reshape(NDim<1> const& target) const;
+  NdArray<T, 2> Reshape(NDim<2> const& target) const;
+  NdArray<T, 3> Reshape(NDim<3> const& target) const;
 
   // All elements along one axis; shares the store when the shape is contiguous.
   NdArray<T, 1> Flatten() const;
@@ -127,19 +127,19 @@ class NdArray {
   NdArray Transpose() const;
 
   // Indices of views are not checked. A view that reaches beyond the store, where there is nothing to share, is an
-  // array of its own, in which `standIn` stands for each position without an element.
-  NdArray View(Vorq::View const& view, T const& standIn = T()) const;
+  // array of its own, with a default element for each position that has none.
+  NdArray View(Vorq::View const& view) const;
 
-  // Gathers the elements at the flat indices. They are neither checked nor counted from the end: `standIn` stands for
-  // an index that leads beyond the store.
-  NdArray<T, 1> Pick(NdArray<int, 1> const& indices, T const& standIn = T()) const;
+  // Gathers the elements at the flat indices. They are neither checked nor counted from the end: an index that leads
+  // beyond the store gives a default element.
+  NdArray<T, 1> Pick(NdArray<int, 1> const& indices) const;
 
   // Gathers one element a row of `coords`, its entries taken as coordinates as they are.
-  NdArray<T, 1> PickAt(NdArray<int, 2> const& coords, T const& standIn = T()) const;
+  NdArray<T, 1> PickAt(NdArray<int, 2> const& coords) const;
 
   // The same with the entries taken as scalar indices of a view, so that negative ones count from the end. A row with
   // more entries than there are axes picks the first element.
-  NdArray<T, 1> PickAtScalars(NdArray<int, 2> const& coords, T const& standIn = T()) const;
+  NdArray<T, 1> PickAtScalars(NdArray<int, 2> const& coords) const;
 
   Status& GetStatus() { return status_; }
   Status const& GetStatus() const { return status_; }
@@ -151,13 +151,13 @@ class NdArray {
  private:
   // The array as it is, or where its shape reaches beyond the store, a compact copy. The end of foreign memory is not
   // known.
-  NdArray WithinStore(T const& standIn) &&;
+  NdArray WithinStore() &&;
 
   template <int M>
-  NdArray<T, M> ReshapeTo(NDim<M> const& target, T const& standIn) const;
+  NdArray<T, M> ReshapeTo(NDim<M> const& target) const;
   NdArray RepeatAxis(std::uint64_t n, int axis, bool wholeRun) const;
   template <class CoordinateOf>
-  NdArray<T, 1> PickRows(NdArray<int, 2> const& coords, T const& standIn, CoordinateOf&& coordinateOf) const;
+  NdArray<T, 1> PickRows(NdArray<int, 2> const& coords, CoordinateOf&& coordinateOf) const;
   void CopyTo(T* target) const;
 
   template <class, int>

@@ -47,21 +47,21 @@ NdArray<T, 1> NdArray<T, N>::Flatten() const {
 }
 
 template <class T, int N>
-NdArray<T, N> NdArray<T, N>::WithinStore(T const& standIn) && {
+NdArray<T, N> NdArray<T, N>::WithinStore() && {
   if (!HasElements()) return std::move(*this);
   std::size_t const count = store_.Block()->count;
   if (count == 0 || shape_.StaysWithin(count)) return std::move(*this);
   return Generated(shape_, [&](std::uint64_t i) {
     T const* const element = Find(i);
-    return element == nullptr ? standIn : *element;
+    return element == nullptr ? T() : *element;
   });
 }
 
 template <class T, int N>
 template <int M>
-NdArray<T, M> NdArray<T, N>::ReshapeTo(NDim<M> const& target, T const& standIn) const {
+NdArray<T, M> NdArray<T, N>::ReshapeTo(NDim<M> const& target) const {
   if (target.GetSize() == GetSize() && target.SizeFits()) {
-    return NdArray<T, M>(target, Flatten().Store()).WithinStore(standIn);
+    return NdArray<T, M>(target, Flatten().Store()).WithinStore();
   }
   auto result = NdArray<T, M>::OneElement(Get(0));
   SetStatus(result.GetStatus(), kInvalid, "Cannot reshape NdArray of size %zu to new shape %s",
@@ -70,18 +70,18 @@ NdArray<T, M> NdArray<T, N>::ReshapeTo(NDim<M> const& target, T const& standIn) 
 }
 
 template <class T, int N>
-NdArray<T, 1> NdArray<T, N>::Reshape(NDim<1> const& target, T const& standIn) const {
-  return ReshapeTo(target, standIn);
+NdArray<T, 1> NdArray<T, N>::Reshape(NDim<1> const& target) const {
+  return ReshapeTo(target);
 }
 
 template <class T, int N>
-NdArray<T, 2> NdArray<T, N>::Reshape(NDim<2> const& target, T const& standIn) const {
-  return ReshapeTo(target, standIn);
+NdArray<T, 2> NdArray<T, N>::Reshape(NDim<2> const& target) const {
+  return ReshapeTo(target);
 }
 
 template <class T, int N>
-NdArray<T, 3> NdArray<T, N>::Reshape(NDim<3> const& target, T const& standIn) const {
-  return ReshapeTo(target, standIn);
+NdArray<T, 3> NdArray<T, N>::Reshape(NDim<3> const& target) const {
+  return ReshapeTo(target);
 }
 
 template <class T, int N>
@@ -127,11 +127,11 @@ NdArray<T, N> NdArray<T, N>::Transpose() const {
 }
 
 template <class T, int N>
-NdArray<T, N> NdArray<T, N>::View(Vorq::View const& view, T const& standIn) const {
+NdArray<T, N> NdArray<T, N>::View(Vorq::View const& view) const {
   if constexpr (N == 0) {
     return *this;
   } else {
-    if (view.Operations().size() <= N) return NdArray(shape_.Apply(view), store_).WithinStore(standIn);
+    if (view.Operations().size() <= N) return NdArray(shape_.Apply(view), store_).WithinStore();
     NdArray result = OneElement(Get(0));
     SetStatus(result.status_, kInvalid, "View has more operations than #ND (%d)", N);
     return result;
@@ -139,7 +139,7 @@ NdArray<T, N> NdArray<T, N>::View(Vorq::View const& view, T const& standIn) cons
 }
 
 template <class T, int N>
-NdArray<T, 1> NdArray<T, N>::Pick(NdArray<int, 1> const& indices, T const& standIn) const {
+NdArray<T, 1> NdArray<T, N>::Pick(NdArray<int, 1> const& indices) const {
   std::uint64_t const count = indices.GetSize();
   if constexpr (N == 0) {
     return NdArray<T, 1>(NDim<1>::FromAxes({Axis{count, 0, 0}}), NdArray<T, 1>::OneElement(Get(0)).Store());
@@ -149,7 +149,7 @@ NdArray<T, 1> NdArray<T, N>::Pick(NdArray<int, 1> const& indices, T const& stand
     T* target = result.Store().Get();
     auto const take = [&](std::int64_t position) {
       T const* const element = FindAt(position);
-      *target++ = element == nullptr ? standIn : *element;
+      *target++ = element == nullptr ? T() : *element;
     };
     if (shape_.IsContiguous()) {
       indices.ForEach([&](int index) { take(shape_.Start() + index); });
@@ -162,8 +162,7 @@ NdArray<T, 1> NdArray<T, N>::Pick(NdArray<int, 1> const& indices, T const& stand
 
 template <class T, int N>
 template <class CoordinateOf>
-NdArray<T, 1> NdArray<T, N>::PickRows(NdArray<int, 2> const& coords, T const& standIn,
-                                      CoordinateOf&& coordinateOf) const {
+NdArray<T, 1> NdArray<T, N>::PickRows(NdArray<int, 2> const& coords, CoordinateOf&& coordinateOf) const {
   std::uint64_t const count = coords.GetDim(0);
   if constexpr (N == 0) {
     return NdArray<T, 1>(NDim<1>::FromAxes({Axis{count, 0, 0}}), NdArray<T, 1>::OneElement(Get(0)).Store());
@@ -183,22 +182,22 @@ NdArray<T, 1> NdArray<T, N>::PickRows(NdArray<int, 2> const& coords, T const& st
         position = AddWrapped(position, MultiplyWrapped(coordinateOf(*entry, axis), axis.stride));
       }
       T const* const element = FindAt(position);
-      *target++ = element == nullptr ? standIn : *element;
+      *target++ = element == nullptr ? T() : *element;
     }
     return result;
   }
 }
 
 template <class T, int N>
-NdArray<T, 1> NdArray<T, N>::PickAt(NdArray<int, 2> const& coords, T const& standIn) const {
-  return PickRows(coords, standIn, [](int entry, Axis const&) -> std::int64_t { return entry; });
+NdArray<T, 1> NdArray<T, N>::PickAt(NdArray<int, 2> const& coords) const {
+  return PickRows(coords, [](int entry, Axis const&) -> std::int64_t { return entry; });
 }
 
 template <class T, int N>
-NdArray<T, 1> NdArray<T, N>::PickAtScalars(NdArray<int, 2> const& coords, T const& standIn) const {
+NdArray<T, 1> NdArray<T, N>::PickAtScalars(NdArray<int, 2> const& coords) const {
   // With too many entries the view of a row fails, and a failed view holds the first element.
   bool const failed = coords.GetDim(1) > N;
-  return PickRows(coords, standIn,
+  return PickRows(coords,
                   [failed](int entry, Axis const& axis) { return failed ? 0 : NormalizeIndex(entry, axis.size); });
 }
 

@@ -1,4 +1,4 @@
-// Arrays seen with another rank or stretched to another shape: a new shape over the same store, no element copied.
+// Arrays seen with another rank: a new shape over the same store, no element copied.
 // Failed results hold the source's first element.
 #pragma once
 
@@ -48,17 +48,6 @@ NdArray<T, N - 1> Diagonal(NdArray<T, N> const& array, int offset, int axis1, in
 template <class T>
 NdArray<T, 1> RepeatElement(T const& value, std::uint64_t n) {
   return NdArray<T, 1>(NDim<1>::FromAxes({Axis{n, 0, 0}}), NdArray<T, 1>::OneElement(value).Store());
-}
-
-// `array` stretched against `other`. Where an axis of size 0 is stretched to size 1 there is no element to read, and
-// the result reads a default element.
-template <int M, class T, int N>
-NdArray<T, M> Broadcast(NdArray<T, N> const& array, NDim<M> const& other) {
-  NDim<M> shape = array.GetShape().Broadcast(other);
-  if (shape.Failed() || array.GetSize() != 0 || shape.GetSize() == 0) return UnderShape(array, std::move(shape));
-  auto axes = shape.GetAxes();
-  for (Axis& axis : axes) axis = {axis.size, 0, 0};
-  return NdArray<T, M>(NDim<M>::FromAxes(axes), NdArray<T, M>::OneElement(T()).Store());
 }
 
 }  // namespace Vorq

@@ -1,8 +1,8 @@
 // Blocks of expressions: copies, sums and operations in place.
 #include <limits>
 
-#include "ndarray/rank_change.hpp"
 #include "tests/matrix/matrix_fixture.hpp"
+#include "tests/ndarray/arrays.hpp"
 
 namespace vorqtest {
 namespace {
@@ -83,7 +83,7 @@ TEST_F(ExpressionBlocksTest, AChangeInPlaceIsSeenThroughAllViews) {
 
 TEST_F(ExpressionBlocksTest, ARepeatedCellIsChangedAsOftenAsTheShapeRepeatsIt) {
   auto const block = Counting<MExpression, 1>({1});
-  MLinExpr<1> stretched(Vorq::Broadcast(block.Cells(), NDim<1>({3})));
+  MLinExpr<1> stretched(arrays::Stretched(block.Cells(), NDim<1>({3})));
   stretched.ForEach([](MExpression& cell) { cell.AddConstant(1.0); });
   EXPECT_THAT(Constants(block), ElementsAre(3));
   stretched.AddConstants(Numbers<1>({3}, {10, 20, 30}));

@@ -2,8 +2,8 @@
 #include "matrix/paired_cells.hpp"
 
 #include "ndarray/nd_array_numbers.hpp"
-#include "ndarray/rank_change.hpp"
 #include "tests/matrix/matrix_fixture.hpp"
+#include "tests/ndarray/arrays.hpp"
 
 namespace vorqtest {
 namespace {
@@ -69,7 +69,7 @@ TEST_F(PairedCellsTest, TheCellsAreCounted) {
 }
 
 TEST_F(PairedCellsTest, ARepeatedCellIsMetAsOftenAsTheShapeRepeatsIt) {
-  auto const repeated = Vorq::Broadcast(Numbers<1>({1}, {1}), NDim<1>({3}));
+  auto const repeated = arrays::Stretched(Numbers<1>({1}, {1}), NDim<1>({3}));
   EXPECT_THAT(Pairs(repeated, Numbers<1>({3}, {5, 6, 7})), ElementsAre(105, 106, 107));
 }
 

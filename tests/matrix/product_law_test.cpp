@@ -1,7 +1,7 @@
 // The law of the dense products: what a result is worth at a point is the product of what the operands are worth, for
 // all groups and pairs of ranks, with operands of all layouts. Shapes, stores and operands are checked on the way.
 #include "matrix/dense_products.hpp"
-#include "ndarray/rank_change.hpp"
+#include "tests/ndarray/arrays.hpp"
 #include "tests/operators/operand_fixture.hpp"
 
 namespace vorqtest {
@@ -45,7 +45,8 @@ class ProductLaw : public OperandTest, public testing::WithParamInterface<Produc
     if (layout == Layout::kStretched) {
       Sizes<N> single = sizes;
       single.front() = 1;
-      return Vorq::BlockOf<Cell, N>(Vorq::Broadcast(Vorq::CellsOf(MakeOperand<Cell, N>(single, seed)), NDim<N>(sizes)));
+      return Vorq::BlockOf<Cell, N>(
+          arrays::Stretched(Vorq::CellsOf(MakeOperand<Cell, N>(single, seed)), NDim<N>(sizes)));
     }
     return MakeOperand<Cell, N>(sizes, seed, layout == Layout::kTransposed);
   }

@@ -18,6 +18,12 @@ Vorq::NdArray<int, N> OfInts(typename Vorq::NDim<N>::Sizes const& sizes, std::ve
   return Vorq::NdArray<int, N>::Generated(Vorq::NDim<N>(sizes), [&](std::uint64_t i) { return values[i]; });
 }
 
+// The array stretched against the shape, over the same store.
+template <int M, class T, int N>
+Vorq::NdArray<T, M> Stretched(Vorq::NdArray<T, N> const& array, Vorq::NDim<M> const& shape) {
+  return Vorq::NdArray<T, M>(array.GetShape().Broadcast(shape), array.Store());
+}
+
 // The elements in flat order, each read by its flat index.
 template <class T, int N>
 std::vector<T> Elements(Vorq::NdArray<T, N> const& array) {

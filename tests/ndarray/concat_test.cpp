@@ -56,7 +56,7 @@ TEST(ArrayConcat, ReadsStridedOperandsInFlatOrder) {
   Vorq::View reversed;
   reversed.Slice(0, 0, -1, Vorq::Slice::kStartOmitted | Vorq::Slice::kStopOmitted);
   EXPECT_EQ(Elements(Concat(a, a.View(reversed), 0)), (Ints{1, 4, 2, 5, 3, 6, 3, 6, 2, 5, 1, 4}));
-  auto const stretched = Vorq::Broadcast(OfInts<1>({2}, {7, 8}), NDim<2>({3, 2}));
+  auto const stretched = arrays::Stretched(OfInts<1>({2}, {7, 8}), NDim<2>({3, 2}));
   EXPECT_EQ(Elements(Concat(a, stretched, 1)), (Ints{1, 4, 7, 8, 2, 5, 7, 8, 3, 6, 7, 8}));
 }
 

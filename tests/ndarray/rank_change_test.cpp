@@ -92,26 +92,4 @@ TEST(ArrayRepeatElement, AnyNumberOfTimes) {
   EXPECT_EQ(Vorq::RepeatElement(7, ~0ULL).Get(~0ULL - 1), 7);
 }
 
-TEST(ArrayBroadcast, StretchesWithoutACopy) {
-  auto const row = OfInts<1>({3}, {7, 8, 9});
-  auto const stretched = Vorq::Broadcast(row, NDim<2>({2, 3}));
-  EXPECT_EQ(stretched.Store(), row.Store());
-  EXPECT_EQ(Elements(stretched), (Ints{7, 8, 9, 7, 8, 9}));
-  auto const column = OfInts<2>({2, 1}, {7, 8});
-  EXPECT_EQ(Elements(Vorq::Broadcast(column, NDim<2>({2, 3}))), (Ints{7, 7, 7, 8, 8, 8}));
-  EXPECT_EQ(Elements(Vorq::Broadcast(NdArray<int, 0>::OneElement(4), NDim<3>({1, 2, 2}))), (Ints{4, 4, 4, 4}));
-}
-
-TEST(ArrayBroadcast, FailureHoldsTheSourcesFirstElement) {
-  auto const failed = Vorq::Broadcast(OfInts<1>({2}, {7, 8}), NDim<2>({2, 3}));
-  EXPECT_STREQ(failed.GetErrorMessage(), "(INVALID) (INVALID) Shape of (1, 2) is not compatible with (2, 3)");
-  EXPECT_EQ(Elements(failed), Ints{7});
-}
-
-TEST(ArrayBroadcast, OfAnEmptyArrayToSizeOneReadsADefault) {
-  auto const stretched = Vorq::Broadcast(Counting<int, 1>({0}), NDim<2>({3, 1}));
-  EXPECT_EQ(stretched.GetShape().ToString(0), "(3, 1)");
-  EXPECT_EQ(Elements(stretched), (Ints{0, 0, 0}));
-}
-
 }  // namespace

@@ -58,7 +58,7 @@ TEST(ArraySumAxis, OfStridedArrays) {
 }
 
 TEST(ArraySumAxis, OfStretchedArrays) {
-  auto const stretched = Vorq::Broadcast(OfInts<1>({2}, {7, 8}), NDim<2>({3, 2}));
+  auto const stretched = arrays::Stretched(OfInts<1>({2}, {7, 8}), NDim<2>({3, 2}));
   EXPECT_EQ(Elements(SumAxis(stretched, 0)), (Ints{21, 24}));
   EXPECT_EQ(Elements(SumAxis(stretched, 1)), (Ints{15, 15, 15}));
   EXPECT_EQ(SumAxis(Vorq::RepeatElement(5, 4), 0).Get(0), 20);
