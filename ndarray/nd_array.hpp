@@ -160,6 +160,9 @@ class NdArray {
   NdArray<T, 1> PickRows(NdArray<int, 2> const& coords, CoordinateOf&& coordinateOf) const;
   void CopyTo(T* target) const;
 
+  // A default element where the position is none of the store.
+  void CopyAt(std::int64_t position, T& target) const;
+
   template <class, int>
   friend class NdArray;
 

@@ -139,6 +139,15 @@ NdArray<T, N> NdArray<T, N>::View(Vorq::View const& view) const {
 }
 
 template <class T, int N>
+void NdArray<T, N>::CopyAt(std::int64_t position, T& target) const {
+  if (T const* const element = FindAt(position)) {
+    target = *element;
+  } else {
+    target = T();
+  }
+}
+
+template <class T, int N>
 NdArray<T, 1> NdArray<T, N>::Pick(NdArray<int, 1> const& indices) const {
   std::uint64_t const count = indices.GetSize();
   if constexpr (N == 0) {
@@ -147,14 +156,10 @@ NdArray<T, 1> NdArray<T, N>::Pick(NdArray<int, 1> const& indices) const {
     if (!HasElements() || !indices.HasElements()) return NdArray<T, 1>::Filled(NDim<1>({count}), Get(0));
     auto result = NdArray<T, 1>::Fresh(NDim<1>({count}));
     T* target = result.Store().Get();
-    auto const take = [&](std::int64_t position) {
-      T const* const element = FindAt(position);
-      *target++ = element == nullptr ? T() : *element;
-    };
     if (shape_.IsContiguous()) {
-      indices.ForEach([&](int index) { take(shape_.Start() + index); });
+      indices.ForEach([&](int index) { CopyAt(shape_.Start() + index, *target++); });
     } else {
-      indices.ForEach([&](int index) { take(shape_.Position(static_cast<std::uint64_t>(index))); });
+      indices.ForEach([&](int index) { CopyAt(shape_.Position(static_cast<std::uint64_t>(index)), *target++); });
     }
     return result;
   }
@@ -181,8 +186,7 @@ NdArray<T, 1> NdArray<T, N>::PickRows(NdArray<int, 2> const& coords, CoordinateO
         Axis const& axis = shape_.GetAxes()[k];
         position = AddWrapped(position, MultiplyWrapped(coordinateOf(*entry, axis), axis.stride));
       }
-      T const* const element = FindAt(position);
-      *target++ = element == nullptr ? T() : *element;
+      CopyAt(position, *target++);
     }
     return result;
   }
