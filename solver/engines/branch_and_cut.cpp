@@ -66,7 +66,8 @@ class BranchAndCut : private StartTaker {
         relaxation_(task, mip_, pool_, tick_),
         branching_(mip_, task.parameters),
         solutions_(task, mip_, pool_, progress_),
-        hasOpenIntegers_(mip_.HasOpenIntegers()) {
+        hasOpenIntegers_(mip_.HasOpenIntegers()),
+        hasCosts_(std::ranges::any_of(mip_.linear.cost, [](double cost) { return cost != 0.0; })) {
     AddToPool(task.data.lazyConstraints, CutPool::Kind::kLazyConstraint);
     AddToPool(task.data.userCuts, CutPool::Kind::kUserCut);
     result_.engine = "Vorq";
@@ -86,6 +87,7 @@ class BranchAndCut : private StartTaker {
   double TakenObjective() const override { return solutions_.Incumbents().Best().objective; }
   void RunTree();
   bool IsAtLimit();
+  Outcome SolveNode();
   NodeEnd Process(SearchNode& node);
   std::optional<NodeEnd> TakeIntegral(SearchNode& node);
   std::optional<NodeEnd> Explore(SearchNode const& node);
@@ -126,6 +128,7 @@ class BranchAndCut : private StartTaker {
   double current_ = kNone;          // the bound of the node at work
   double lost_ = kNone;             // the best bound of nodes that the engine could not solve
   bool hasOpenIntegers_;
+  bool hasCosts_;
   bool isAtNodeLimit_ = false;
   bool isUnbounded_ = false;
   int nodes_ = 0;
@@ -272,6 +275,14 @@ bool BranchAndCut::Separate() {
   return AddViolated();
 }
 
+// Without costs no relaxation is unbounded, and any point is a best one: where the engine went astray, one not too far.
+TreeRelaxation::Outcome BranchAndCut::SolveNode() {
+  auto const outcome = relaxation_.Solve();
+  if (outcome != Outcome::kUnbounded || hasCosts_) return outcome;
+  auto const within = relaxation_.SolveWithin(kDistances[0]);
+  return within == Outcome::kOptimal || within == Outcome::kStopped ? within : Outcome::kFailed;
+}
+
 // Solves the node until no more rows come; then it is done, or split.
 BranchAndCut::NodeEnd BranchAndCut::Process(SearchNode& node) {
   bool const isRoot = node.depth == 0;
@@ -281,7 +292,7 @@ BranchAndCut::NodeEnd BranchAndCut::Process(SearchNode& node) {
   bool dives = IsTimeToDive();
   double const inherited = node.bound;
   for (bool isFirst = true;; isFirst = false) {
-    auto const outcome = relaxation_.Solve();
+    auto const outcome = SolveNode();
     if (outcome == Outcome::kStopped) return NodeEnd::kStopped;
     if (outcome == Outcome::kInfeasible) return NodeEnd::kDone;
     if (outcome == Outcome::kUnbounded) {

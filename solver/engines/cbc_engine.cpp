@@ -89,6 +89,8 @@ class CbcSolver : private StartTaker {
   // Whether the engine cannot be trusted with this outcome.
   bool IsDoubtful(SolveStatus outcome) const;
 
+  bool HasSearched() const { return hasSearched_; }
+
  private:
   void Control(ClpInterface& solver) { vorqsolver::Control(solver, silent_, IterationWatch(task_.stop, tick_)); }
   void Load(ClpInterface& solver);
@@ -500,11 +502,13 @@ bool CbcEngine::Supports(ProblemClass const& what) const {
 }
 
 SolveResult CbcEngine::Solve(SolveTask const& task) const {
+  bool hasTakenStarts = false;
   try {
     CbcSolver solver(task);
     if (solver.IsFit()) {
       auto result = solver.Run();
       if (!solver.IsDoubtful(result.mipStatus)) return result;
+      hasTakenStarts = solver.HasSearched();
       task.log.Line("Columns without bounds: searched by the engine Vorq");
     } else {
       task.log.Line("Sets or integer columns without bounds: searched by the engine Vorq");
@@ -512,7 +516,9 @@ SolveResult CbcEngine::Solve(SolveTask const& task) const {
   } catch (CoinError const& error) {
     throw Failure(VORQ_INTERNAL, "The engine Cbc failed: " + error.message());
   }
-  return BranchAndCutEngine().Solve(task);
+  std::vector<MipStart> const none;
+  return BranchAndCutEngine().Solve({task.data, task.parameters, task.startBasis, task.startValues,
+                                     hasTakenStarts ? none : task.starts, task.stop, task.log, task.callback});
 }
 
 }  // namespace vorqsolver

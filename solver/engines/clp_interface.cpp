@@ -4,7 +4,8 @@
 namespace vorqsolver {
 
 void ClpInterface::markHotStart() {
-  if (IsTiny()) {
+  isTiny_ = getNumRows() <= 2 && getNumCols() <= 2;
+  if (isTiny_) {
     OsiSolverInterface::markHotStart();
   } else {
     OsiClpSolverInterface::markHotStart();
@@ -12,7 +13,7 @@ void ClpInterface::markHotStart() {
 }
 
 void ClpInterface::solveFromHotStart() {
-  if (IsTiny()) {
+  if (isTiny_) {
     OsiSolverInterface::solveFromHotStart();
   } else {
     OsiClpSolverInterface::solveFromHotStart();
@@ -20,7 +21,7 @@ void ClpInterface::solveFromHotStart() {
 }
 
 void ClpInterface::unmarkHotStart() {
-  if (IsTiny()) {
+  if (isTiny_) {
     OsiSolverInterface::unmarkHotStart();
   } else {
     OsiClpSolverInterface::unmarkHotStart();

@@ -21,7 +21,7 @@ class ClpInterface : public OsiClpSolverInterface {
   void unmarkHotStart() override;
 
  private:
-  bool IsTiny() const { return getNumRows() <= 2 && getNumCols() <= 2; }
+  bool isTiny_ = false;  // at the begin of the trials
 };
 
 }  // namespace vorqsolver

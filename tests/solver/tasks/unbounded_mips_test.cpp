@@ -58,6 +58,20 @@ TEST_F(UnboundedMipsTest, OneEndlessSideOfASetIsEnough) {
   EXPECT_EQ(Int("HasMipSol"), 0);
 }
 
+TEST_F(UnboundedMipsTest, WithoutCostsAnySolutionWillDo) {
+  for (bool const hasCallback : {false, true}) {
+    SCOPED_TRACE(hasCallback);
+    int const x = Col(0.0, -kInf, kInf, 'I');
+    int const y = Col(0.0, -kInf, kInf, 'I');
+    int const z = Col(0.0, -kInf, kInf);
+    Row({x, y, z}, {3.0, 5.0, 1.0}, 'E', 1.0);
+    Row({z}, {1.0}, 'E', 0.0);
+    if (hasCallback) OnCall(kAll, [](Call const&) {});
+    EXPECT_EQ(Run(), kOptimal);
+    EXPECT_EQ(Dbl("BestObj"), 0.0);
+  }
+}
+
 // The integer columns alone decide.
 TEST_F(UnboundedMipsTest, NoSolutionMeansInfeasible) {
   Maximise();
