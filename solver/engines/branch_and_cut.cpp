@@ -91,6 +91,7 @@ class BranchAndCut : private StartTaker {
   NodeEnd Process(SearchNode& node);
   std::optional<NodeEnd> TakeIntegral(SearchNode& node);
   std::optional<NodeEnd> Explore(SearchNode const& node);
+  LinearModel NodeModel() const;
   SolveResult SearchForAny();
   Verdict ShowFarAway(SearchNode const& node, std::vector<double> const& solution);
   NodeEnd Lose(SearchNode const& node);
@@ -362,6 +363,11 @@ BranchAndCut::NodeEnd BranchAndCut::Lose(SearchNode const& node) {
 // mixed-integer programming problems", Mathematical Programming 7, 1974); unless the callback has rows that bound it.
 // Nothing where the node is to be solved again.
 std::optional<BranchAndCut::NodeEnd> BranchAndCut::Explore(SearchNode const& node) {
+  // The engine's word is no proof.
+  auto const proved = ProvedStatus(NodeModel(), task_);
+  if (task_.stop.Asked()) return NodeEnd::kStopped;
+  if (proved == SolveStatus::kInfeasible) return NodeEnd::kDone;
+  if (proved != SolveStatus::kUnbounded) return Lose(node);
   if (auto const choice = branching_.ChooseOpenSet(relaxation_)) return Split(node, *choice);
   for (double const size : kDistances) {
     if (task_.callback == nullptr || relaxation_.SolveWithin(size) != Outcome::kOptimal) continue;
@@ -381,6 +387,17 @@ std::optional<BranchAndCut::NodeEnd> BranchAndCut::Explore(SearchNode const& nod
   return NodeEnd::kDone;
 }
 
+// The linear relaxation of the node at hand, without cuts.
+LinearModel BranchAndCut::NodeModel() const {
+  LinearModel model = mip_.linear;
+  solutions_.AddRequiredRows(model);
+  for (int col = 0; col < model.ColCount(); ++col) {
+    model.lower[col] = relaxation_.Lower(col);
+    model.upper[col] = relaxation_.Upper(col);
+  }
+  return model;
+}
+
 // Looks for a solution of the node at hand, whatever it costs.
 SolveResult BranchAndCut::SearchForAny() {
   task_.log.Line("No end in sight: looking for any solution");
@@ -388,12 +405,8 @@ SolveResult BranchAndCut::SearchForAny() {
   withoutCosts.objective = {};
   std::ranges::fill(withoutCosts.columns.objective, 0.0);
   MipModel model = mip_;
-  solutions_.AddRequiredRows(model.linear);
+  model.linear = NodeModel();
   std::ranges::fill(model.linear.cost, 0.0);
-  for (int col = 0; col < model.linear.ColCount(); ++col) {
-    model.linear.lower[col] = relaxation_.Lower(col);
-    model.linear.upper[col] = relaxation_.Upper(col);
-  }
   Basis const noBasis;
   std::vector<double> const noValues;
   std::vector<MipStart> const noStarts;
