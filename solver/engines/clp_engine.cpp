@@ -32,7 +32,7 @@ constexpr int kPresolvePasses = 5;
 enum ClpOutcome { kOptimal = 0, kInfeasible = 1, kUnbounded = 2, kLimit = 3, kStoppedByEvent = 5 };
 
 // Beyond this a point is no evidence of anything.
-constexpr double kFar = 1e9;
+constexpr double kDoubtful = 1e9;
 constexpr double kProofTolerance = 1e-10;
 
 std::span<double const> Entries(double const* first, int count) {
@@ -247,12 +247,12 @@ void ClpSolver::Finish() {
   if (simplex_.status() == kUnbounded) RunPrimal(simplex_);
   if (WasStopped(simplex_)) return;
   if (simplex_.status() == kInfeasible && TakeEngineRay()) return;
-  bool const isFar = std::ranges::any_of(Point(), [](double value) { return std::abs(value) >= kFar; });
-  if (simplex_.status() == kOptimal && (!isFar || !FindPrimalRay())) {
+  bool const isDoubtful = std::ranges::any_of(Point(), [](double value) { return std::abs(value) >= kDoubtful; });
+  if (simplex_.status() == kOptimal && (!isDoubtful || !FindPrimalRay())) {
     TakeOptimum();
     return;
   }
-  bool const isPoint = !isFar && HoldsIn(model_, Point(), task_.parameters.Dbl(DblParam::kFeasTol));
+  bool const isPoint = !isDoubtful && HoldsIn(model_, Point(), task_.parameters.Dbl(DblParam::kFeasTol));
   if (!isPoint && !FindPoint()) return;
   if (FindPrimalRay()) {
     TakePrimalRay();

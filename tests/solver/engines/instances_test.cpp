@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cctype>
 #include <cmath>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -14,6 +13,7 @@
 #include <vector>
 
 #include "frame/vorq_solver.h"
+#include "tests/support/instances.hpp"
 
 namespace {
 
@@ -142,8 +142,8 @@ constexpr bool kIsSanitized = false;
 
 // Solves the instance `name` and hands the problem to `expect`.
 void SolveNamed(char const* name, double seconds, void (*expect)(VORQ_Prob*, Instance const&)) {
-  char const* folder = std::getenv("VORQ_INSTANCES");
-  if (folder == nullptr) GTEST_SKIP() << "VORQ_INSTANCES does not name the folder of the instances";
+  auto const folder = InstanceFolder();
+  if (folder.empty()) GTEST_SKIP() << kNoInstances;
   auto const instances = ReadSolvable(folder);
   auto const found =
       std::ranges::find_if(instances, [name](Instance const& instance) { return instance.at("name") == name; });
@@ -154,7 +154,7 @@ void SolveNamed(char const* name, double seconds, void (*expect)(VORQ_Prob*, Ins
   ASSERT_EQ(VORQ_CreateProb(env, &prob), VORQ_OK);
   // Ten times as close as the comparison asks for.
   double const relativeGap = 0.1 * std::stod(found->at("relative_tolerance"));
-  ReadAndSolve(prob, std::string(folder) + "/" + found->at("file"), relativeGap, seconds);
+  ReadAndSolve(prob, folder + "/" + found->at("file"), relativeGap, seconds);
   if (!testing::Test::HasFatalFailure()) expect(prob, *found);
   VORQ_DeleteProb(&prob);
   VORQ_DeleteEnv(&env);
@@ -181,8 +181,8 @@ std::string TestName(testing::TestParamInfo<char const*> const& info) {
 INSTANTIATE_TEST_SUITE_P(All, InstancesTest, testing::ValuesIn(kNames), TestName);
 
 TEST(Instances, AreAllNamedHere) {
-  char const* folder = std::getenv("VORQ_INSTANCES");
-  if (folder == nullptr) GTEST_SKIP() << "VORQ_INSTANCES does not name the folder of the instances";
+  auto const folder = InstanceFolder();
+  if (folder.empty()) GTEST_SKIP() << kNoInstances;
   for (auto const& instance : ReadSolvable(folder)) {
     bool const isNamed = std::ranges::find(kNames, instance.at("name")) != std::end(kNames);
     EXPECT_TRUE(isNamed || instance.at("name") == kBracketed) << instance.at("name");

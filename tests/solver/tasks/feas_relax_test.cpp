@@ -2,12 +2,12 @@
 #include <unistd.h>
 
 #include <cmath>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
 #include "tests/solver/engines/solve_fixture.hpp"
+#include "tests/support/instances.hpp"
 
 namespace {
 
@@ -62,9 +62,9 @@ class FeasRelaxTest : public SolveTest {
   }
 
   void ReadInstance(std::string const& file) {
-    char const* folder = std::getenv("VORQ_INSTANCES");
-    if (folder == nullptr) GTEST_SKIP() << "VORQ_INSTANCES does not name the folder of the instances";
-    std::string const path = std::string(folder) + "/" + file;
+    auto const folder = InstanceFolder();
+    if (folder.empty()) GTEST_SKIP() << kNoInstances;
+    std::string const path = folder + "/" + file;
     ASSERT_EQ((file.ends_with(".lp") ? VORQ_ReadLp : VORQ_ReadMps)(prob, path.c_str()), VORQ_OK);
   }
 

@@ -1,9 +1,9 @@
 // The infeasible public instances: their sets are proved irreducible by solves. The folder of the instances is told by
 // the environment variable VORQ_INSTANCES.
 #include <cmath>
-#include <cstdlib>
 
 #include "tests/solver/tasks/iis_fixture.hpp"
+#include "tests/support/instances.hpp"
 
 namespace {
 
@@ -11,9 +11,9 @@ class IisInstancesTest : public IisTest {
  protected:
   // False where the folder is not told.
   bool ReadInstance(std::string const& file) {
-    char const* folder = std::getenv("VORQ_INSTANCES");
-    if (folder == nullptr) return false;
-    std::string const path = std::string(folder) + "/" + file;
+    auto const folder = InstanceFolder();
+    if (folder.empty()) return false;
+    std::string const path = folder + "/" + file;
     EXPECT_EQ((file.ends_with(".lp") ? VORQ_ReadLp : VORQ_ReadMps)(prob, path.c_str()), VORQ_OK) << path;
     return true;
   }
@@ -23,7 +23,7 @@ class LinearInstance : public IisInstancesTest, public testing::WithParamInterfa
 
 TEST_P(LinearInstance, HasAnIrreducibleSet) {
   if (!ReadInstance(std::string("lp_infeasible/") + GetParam() + ".mps.gz")) {
-    GTEST_SKIP() << "VORQ_INSTANCES does not name the folder of the instances";
+    GTEST_SKIP() << kNoInstances;
   }
   ASSERT_EQ(VORQ_ComputeIIS(prob), VORQ_OK);
   EXPECT_EQ(Int("IsMinIIS"), 1);
@@ -43,7 +43,7 @@ class TightBudget : public IisInstancesTest, public testing::WithParamInterface<
 
 TEST_P(TightBudget, HasAnIrreducibleSet) {
   if (!ReadInstance(std::string("lp/") + GetParam() + ".mps.gz")) {
-    GTEST_SKIP() << "VORQ_INSTANCES does not name the folder of the instances";
+    GTEST_SKIP() << kNoInstances;
   }
   ASSERT_EQ(Solve(), kOptimal);
   double const optimum = Dbl("LpObjval") - Dbl("ObjConst");
@@ -62,7 +62,7 @@ INSTANTIATE_TEST_SUITE_P(All, TightBudget, testing::Values("share2b", "blend", "
 
 TEST_F(IisInstancesTest, MixedIntegerInstanceHasAnIrreducibleSet) {
   if (!ReadInstance("mip/stein27_inf.lp")) {
-    GTEST_SKIP() << "VORQ_INSTANCES does not name the folder of the instances";
+    GTEST_SKIP() << kNoInstances;
   }
   Set("TimeLimit", 30.0);
   ASSERT_EQ(VORQ_ComputeIIS(prob), VORQ_OK);
