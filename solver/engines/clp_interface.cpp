@@ -4,25 +4,26 @@
 namespace vorqsolver {
 
 void ClpInterface::markHotStart() {
-  isTiny_ = getNumRows() <= 2 && getNumCols() <= 2;
-  if (isTiny_) {
-    OsiSolverInterface::markHotStart();
+  bool const isTiny = getNumRows() <= 2 && getNumCols() <= 2;
+  if (isTiny) {
+    tinyStart_.reset(getWarmStart());
   } else {
     OsiClpSolverInterface::markHotStart();
   }
 }
 
 void ClpInterface::solveFromHotStart() {
-  if (isTiny_) {
-    OsiSolverInterface::solveFromHotStart();
+  if (tinyStart_) {
+    setWarmStart(tinyStart_.get());
+    resolve();
   } else {
     OsiClpSolverInterface::solveFromHotStart();
   }
 }
 
 void ClpInterface::unmarkHotStart() {
-  if (isTiny_) {
-    OsiSolverInterface::unmarkHotStart();
+  if (tinyStart_) {
+    tinyStart_.reset();
   } else {
     OsiClpSolverInterface::unmarkHotStart();
   }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <OsiClpSolverInterface.hpp>
+#include <memory>
 
 namespace vorqsolver {
 
@@ -11,6 +12,10 @@ class ClpInterface : public OsiClpSolverInterface {
  public:
   ClpInterface() = default;
   explicit ClpInterface(OsiClpSolverInterface const& other) : OsiClpSolverInterface(other) {}
+
+  // A copy is not within trials.
+  ClpInterface(ClpInterface const& other) : OsiClpSolverInterface(other) {}
+  ClpInterface& operator=(ClpInterface const&) = delete;
 
   OsiSolverInterface* clone(bool copyData) const override {
     return copyData ? new ClpInterface(*this) : new ClpInterface();
@@ -21,7 +26,7 @@ class ClpInterface : public OsiClpSolverInterface {
   void unmarkHotStart() override;
 
  private:
-  bool isTiny_ = false;  // at the begin of the trials
+  std::unique_ptr<CoinWarmStart> tinyStart_;  // within trials of a tiny model
 };
 
 }  // namespace vorqsolver
