@@ -11,10 +11,10 @@ namespace vorqsolver {
 class ClpInterface : public OsiClpSolverInterface {
  public:
   ClpInterface() = default;
-  explicit ClpInterface(OsiClpSolverInterface const& other) : OsiClpSolverInterface(other) {}
+  explicit ClpInterface(OsiClpSolverInterface const& other) : OsiSolverInterface(other), OsiClpSolverInterface(other) {}
 
   // A copy is not within trials.
-  ClpInterface(ClpInterface const& other) : OsiClpSolverInterface(other) {}
+  ClpInterface(ClpInterface const& other) : OsiSolverInterface(other), OsiClpSolverInterface(other) {}
   ClpInterface& operator=(ClpInterface const&) = delete;
 
   OsiSolverInterface* clone(bool copyData) const override {
